@@ -1,0 +1,20 @@
+// The About box's skin.
+#include "app/AboutDlg.h"
+
+#include "res/ControlIds.h"
+
+namespace korvane {
+namespace {
+
+constexpr int kOkButton = 1;
+constexpr SkinElement kSkin[] = {{0, "Main"},
+                                 {kOkButton, "Button"},
+                                 {IDC_ABOUT_VERSION, "Label"},
+                                 {IDC_ABOUT_NOTICE, "Label"},
+                                 {IDC_ABOUT_TEXT, "Label"}};
+
+}  // namespace
+
+bool CAboutDlg::OnInitDialog() { return applySkin(kSkin); }
+
+}  // namespace korvane

@@ -1,0 +1,28 @@
+// One of the eleven groups of consecutive ItemIds: it owns the show and apply
+// routines of its items.
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "pages/PageContext.h"
+
+namespace korvane {
+
+class CCatalogModule {
+public:
+    CCatalogModule(const CatalogueGroup& group, PageHost& host, Platform& platform)
+        : first_(group.first), last_(group.last), host_(host), platform_(platform) {}
+
+    bool owns(int id) const { return id >= first_ && id <= last_; }
+    // Shows the item's page; an item without a show routine shows nothing.
+    void Show(int id);
+    // Applies the page that Show filled; an item without an apply routine does nothing.
+    void Apply(int id);
+
+private:
+    int first_;
+    int last_;
+    PageHost& host_;
+    Platform& platform_;
+};
+
+}  // namespace korvane

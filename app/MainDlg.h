@@ -1,0 +1,84 @@
+// The main window's decisions: the order of start-up, the tree, which page is
+// shown and which is applied. The windows themselves stand behind MainWindow.
+#pragma once
+
+#include "app/CatalogModule.h"
+#include "app/KorvaneApp.h"
+#include "history/DateStore.h"
+#include "pages/PageContext.h"
+#include "pages/Pages.h"
+#include "platform/MainWindow.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+class CMainDlg : public MainWindowHandler, private PageHost, private DialogHost {
+public:
+    // Where the dates are kept: in the program folder's file, or, for a program that leaves no trace, in memory.
+    enum class Dates { InFile, InMemory };
+
+    // Both are borrowed and outlive the dialog.
+    CMainDlg(CKorvaneApp& app, MainWindow& window, Dates dates = Dates::InFile);
+
+    bool OnInitDialog() override;
+    void OnSelectionChanged() override;
+    void OnApplyChanges() override;
+    void OnAbout() override;
+    void OnHelp() override { app_.ShowHelp(); }
+    void OnDividerMoved(int distance) override;
+    void OnDestroy() override;
+
+    // How often a date was recorded so far.
+    int stampCount() const { return stampCount_; }
+    const DateStore& dates() const { return dates_; }
+
+private:
+    // PageHost
+    bool hasPage(Page page) override;
+    DialogControls& page(Page page) override;
+    void showApplyButton() override;
+    Rect applyButtonRect(Page page) override;
+    std::string headerText(int id) override { return app_.items().headerText(id); }
+    std::string title(int id) override { return app_.items().title(id); }
+    void translateControl(DialogControls& page, int id, int control) override;
+    std::string dateOf(std::string_view title) override { return dates_.LookUp(title); }
+    void stamp() override;
+    void alert(int stringId) override;
+    ListColumns& listColumns() override { return listColumns_; }
+
+    // DialogHost
+    bool applySkinElement(DialogControls& dialog, const SkinElement& element) override;
+    void showSkinFailure() override;
+    std::uint32_t randomSeed() override { return app_.platform().clock.seed(); }
+    int currentItem() override { return static_cast<int>(currentItem_); }
+    std::string browse() override;
+
+    void appendAboutItem();
+    void showSplash();
+    bool loadSkin();
+    void loadTreeBackground();
+    void fillImageList();
+    void setUpTree();
+    void buildTree();
+    void createPages();
+    void hideAllPages();
+    CCatalogModule* moduleOf(std::uint32_t id);
+
+    CKorvaneApp& app_;
+    MainWindow& window_;
+    DateStore dates_;
+    int stampCount_ = 0;
+    std::vector<CCatalogModule> modules_;
+    std::vector<CCatalogModule*> moduleById_;  // by ItemId, so that every dispatch is an index
+    std::vector<std::unique_ptr<CPage>> pages_;
+    ListColumns listColumns_;
+    std::uint32_t currentItem_;
+    ISkinEngine* skin_ = nullptr;
+    // The language file of this run; set once the setting has been read.
+    LanguageFile language_;
+};
+
+}  // namespace korvane

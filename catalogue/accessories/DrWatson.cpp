@@ -1,0 +1,81 @@
+// The Dr Watson tweaks: what the crash reporter records when a program fails,
+// how it tells about it, and where its log and dump go. All of them hold for the
+// whole machine; the group has no place in the tree.
+#include "catalogue/Units.h"
+
+namespace korvane {
+namespace {
+
+constexpr OverviewRow kDrWatsonRows[] = {{14}, {15}, {16}, {17}, {18}, {19}, {20}, {21}, {22}, {23}, {24}};
+constexpr Overview kDrWatsonOverview{.rows = kDrWatsonRows};
+
+constexpr Tweak kTweaks[] = {
+    {.id = 13,
+     .title = "Dr Watson",
+     .description = "Setting for the Dr Watson Diagnostic utility.",
+     .image = 3,
+     .page = Page::Category,
+     .overview = &kDrWatsonOverview},
+    {.id = 14,
+     .title = "Control Symbol Dumping in Dr Watson",
+     .description =
+         "Writes the symbols of every module of a failing program to the Dr Watson log. They help a developer to find "
+         "the place of the error, but make the log much longer."},
+    {.id = 15,
+     .title = "Control the Log File Creation Method of Dr Watson",
+     .description =
+         "Decides whether Dr Watson starts a new log file for each application error or adds to the existing one. A "
+         "new file stays short but holds only the latest error; a cleared box keeps the history of all of them."},
+    {.id = 16,
+     .title = "Control Thread Dumbing in Dr Watson",  // spelled so on purpose
+     .description =
+         "Records the state of all threads of a failing program in the Dr Watson log. With the box cleared only the "
+         "thread that caused the error is recorded, which is often enough and keeps the log small."},
+    {.id = 17,
+     .title = "Control Whether Dr Watson Alarts Using Popups",  // spelled so on purpose
+     .description =
+         "Shows a message box whenever Dr Watson handles an application error. Clear it on servers and unattended "
+         "computers, where nobody is there to close the box."},
+    {.id = 18,
+     .title = "Control Whether Dr Watson Alarts Using Sound",  // spelled so on purpose
+     .description =
+         "Plays a sound when Dr Watson handles an application error, so that a failure is noticed even when nobody is "
+         "watching the screen. It can be combined with the message box."},
+    {.id = 19,
+     .title = "Control Whether Dr Watson Creats a Crash Dump",  // spelled so on purpose
+     .description =
+         "Saves the memory of a failed program to a crash dump file, which can be loaded into a debugger later. Turn "
+         "it on to have a recurring crash examined; turn it off to save disk space."},
+    {.id = 20,
+     .title = "Specify the Alternat Debugging Utility",  // spelled so on purpose
+     .description =
+         "Names the program that Windows starts when an application fails, in place of the one set now. It is meant "
+         "for developers with a debugger of their own; the usual process and event arguments are added to the path and "
+         "replace any others."},
+    {.id = 21,
+     .title = "Specify the Dr Watson Log Directory",
+     .description =
+         "Sets the folder in which Dr Watson keeps its log, for example one on a drive with more space or one that the "
+         "support staff can reach. Type the path of the folder; the browse button can only pick files."},
+    {.id = 22,
+     .title = "Specify the Location of the Dump File",
+     .description =
+         "Sets the path and name of the file to which Dr Watson saves the memory of a failed program. Change it when "
+         "the system drive is short of space; the path may contain environment variables."},
+    {.id = 23,
+     .title = "Specify the Number of Instructions to Record",
+     .description =
+         "Sets how many instructions before and after the point of failure Dr Watson writes to its log for each "
+         "thread. More of them give a developer a better view of the error and make the log longer."},
+    {.id = 24,
+     .title = "Specify the Wave File for Sound Notification",
+     .description =
+         "Names the wave file that Dr Watson plays when a program fails, provided that its sound notification is "
+         "turned on. The path may contain environment variables."},
+};
+
+}  // namespace
+
+constinit const Unit kDrWatsonUnit{kTweaks};
+
+}  // namespace korvane

@@ -1,0 +1,66 @@
+// The Task Scheduler tweaks: which parts of the scheduler's windows users may
+// change. Each is a policy with one box for the current user and one for all users.
+#include "catalogue/Units.h"
+
+namespace korvane {
+namespace {
+
+constexpr OverviewRow kTaskSchedulerRows[] = {{32}, {33}, {34}, {35}, {36}, {37}};
+constexpr Overview kTaskSchedulerOverview{.rows = kTaskSchedulerRows};
+
+constexpr Tweak kTweaks[] = {
+    {.id = 30,
+     .title = "Task Scheduler",
+     .description = "Settings and restrictions for Task Scheduler",
+     .image = 5,
+     .treeParent = 0,
+     .page = Page::Category,
+     .overview = &kTaskSchedulerOverview},
+    {.id = 31,
+     .title = "Change the Scheduler Log File Settings",
+     .description =
+         "The Task Scheduler notes when its tasks start, end or fail in a log file, normally in the Windows folder and "
+         "at most 32 KB long. Its path and largest size can be changed, for instance to keep a longer history."},
+    {.id = 32,
+     .title = "Disable Changes to Task Properties",
+     .description =
+         "Prevents users from viewing and changing the properties of existing scheduled tasks, such as their schedule "
+         "or account. Use it where tasks are set up by an administrator and should stay as they are.",
+     .treeParent = 30},
+    {.id = 33,
+     .title = "Disable Changes to Task Run Command",
+     .description =
+         "Stops users from changing the program that a scheduled task runs, and limits new tasks to programs on the "
+         "Start menu by removing the Browse button. It keeps arbitrary programs from being scheduled.",
+     .treeParent = 30},
+    {.id = 34,
+     .title = "Disable Drags and Drop Task Scheduling",  // spelled so on purpose
+     .description =
+         "Disables cut, copy, paste and dragging in the Scheduled Tasks folder, so that users cannot add, copy or "
+         "remove tasks with the mouse or the clipboard. Other ways to create tasks stay open.",
+     .treeParent = 30},
+    {.id = 35,
+     .title = "Disable Manual Task Control",
+     .description =
+         "Removes the Run and End Task commands, so that users cannot start or stop scheduled tasks by hand. The tasks "
+         "still run by their schedules, which suits backups and other jobs that must not be interrupted.",
+     .treeParent = 30},
+    {.id = 36,
+     .title = "Remove Advanced Option from Task Scheduler Wizard",
+     .description =
+         "Hides the option to open the advanced properties on the last page of the Add Scheduled Task wizard. New "
+         "tasks then keep simple settings; users can still change them later in the properties of the task.",
+     .treeParent = 30},
+    {.id = 37,
+     .title = "Restrict Task Creation and Deletion",
+     .description =
+         "Prevents users from creating new scheduled tasks and from deleting existing ones; both restrictions are set "
+         "together. Administrators can still add tasks with the AT command.",
+     .treeParent = 30},
+};
+
+}  // namespace
+
+constinit const Unit kTaskSchedulerUnit{kTweaks};
+
+}  // namespace korvane

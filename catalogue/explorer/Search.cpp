@@ -1,0 +1,60 @@
+// The Search tweaks: the options with which a search starts, the search button
+// and assistant of Explorer, and searches in Active Directory.
+#include "catalogue/Units.h"
+
+namespace korvane {
+namespace {
+
+constexpr OverviewRow kSearchRows[] = {{97}, {99}, {102}};
+constexpr Overview kSearchOverview{.rows = kSearchRows};
+
+constexpr Tweak kTweaks[] = {
+    {.id = 96,
+     .title = "Search",
+     .description = "Enhancements for the Windows Explorer Search Features",
+     .image = 12,
+     .treeParent = 95,
+     .page = Page::Category,
+     .overview = &kSearchOverview},
+    {.id = 97,
+     .title = "Change Default Search Options",
+     .description =
+         "Sets the options that are already checked when the current user opens a search for files: upper and lower "
+         "case, subfolders, hidden files, system folders and tape backups. Searching fewer places gives quicker "
+         "results.",
+     .treeParent = 96},
+    {.id = 98,
+     .title = "Change the Number of Active Directory Search Results",
+     .description =
+         "Limits how many objects a search in Active Directory returns for the current user; 0 sets no limit. A lower "
+         "number relieves the network and the domain controllers, a higher one shows large directories in full."},
+    {.id = 99,
+     .title = "Hide the Search Button on the Explorer Toolbar",
+     .description =
+         "Removes the Search button from the toolbar of Explorer, for the current user or for all users. Searching is "
+         "still possible in other ways, for example from the Start menu.",
+     .treeParent = 96},
+    {.id = 100,
+     .title = "Search for All File Types",
+     .description =
+         "Lets a search for words inside files also read files whose type Windows does not know, where it would "
+         "otherwise skip them. Programmers find text in their sources this way; such searches take longer. It holds "
+         "for all users."},
+    {.id = 101,
+     .title = "Show Filter in Active Directory Search Results",
+     .description =
+         "Shows the filter bar above the results of a search in Active Directory from the start, for the current user. "
+         "It helps administrators who often narrow down long lists of users or computers."},
+    {.id = 102,
+     .title = "Use Classic Search in Explorer",
+     .description =
+         "Chooses whether the current user searches with the Search Assistant, which asks one question after another. "
+         "Choose No for the plain classic search form with all its fields at once.",
+     .treeParent = 96},
+};
+
+}  // namespace
+
+constinit const Unit kSearchUnit{kTweaks};
+
+}  // namespace korvane

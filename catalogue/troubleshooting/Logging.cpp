@@ -1,0 +1,56 @@
+// The Logging tweaks: who may read the event logs, and what Windows records to
+// help in finding faults. Not in the tree.
+#include "catalogue/Units.h"
+
+namespace korvane {
+namespace {
+
+constexpr OverviewRow kLoggingRows[] = {{283}, {284}, {285}, {286}, {287}};
+constexpr Overview kLoggingOverview{.rows = kLoggingRows};
+
+constexpr Tweak kTweaks[] = {
+    {.id = 281,
+     .title = "Logging",
+     .description = "Logging and Reporting Enhancements",
+     .image = 28,
+     .page = Page::Category,
+     .overview = &kLoggingOverview},
+    {.id = 282,
+     .title = "Change the Number of SQL Server Error Logs",
+     .description =
+         "SQL Server starts a new error log each time it starts and keeps only the last few old ones. A larger "
+         "number keeps a longer history on servers that are restarted often."},
+    {.id = 283,
+     .title = "Restrict Access to the Event Logs",
+     .description =
+         "Guests and anonymous users can read event logs unless they are kept out. Check the application, security "
+         "and system log separately to restrict their access, because the entries tell a lot about the computer."},
+    {.id = 284,
+     .title = "Show Verbose Security Status Messages",
+     .description =
+         "Shows in detail what Windows is doing while it starts, shuts down and logs users in or out. This helps "
+         "to find the step at which a slow or hanging computer stops."},
+    {.id = 285,
+     .title = "User Environment Debug Logging",
+     .description =
+         "Records how user profiles and policies are loaded in the file Userenv.log of the Windows debug folder. "
+         "Raise the level to verbose when logins are slow or profiles fail, and set it back afterwards, for the "
+         "log grows."},
+    {.id = 286,
+     .title = "User Environment Event Logging",
+     .description =
+         "Writes detailed events about the processing of user profiles and Group Policy to the application event "
+         "log. Turn it on to trace a policy that does not arrive, and off again so that the log does not fill up."},
+    {.id = 287,
+     .title = "Windows Installer Logging",
+     .description =
+         "Makes Windows Installer log every installation with all options listed below except + and !, to find out "
+         "why a setup fails. Caution: applying it unchecked also removes all other local machine policies that are "
+         "mirrored in the settings of the current user."},
+};
+
+}  // namespace
+
+constinit const Unit kLoggingUnit{kTweaks};
+
+}  // namespace korvane

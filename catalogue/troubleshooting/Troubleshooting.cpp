@@ -1,0 +1,92 @@
+// The top of Troubleshooting and its single tweaks: start-up state and warnings,
+// Remote Assistance, AutoRun of CDs and error reporting.
+#include "catalogue/Units.h"
+
+namespace korvane {
+namespace {
+
+constexpr OverviewRow kTroubleshootingRows[] = {{295}, {296}, {297}, {299}, {300}, {301}, {303}, {305}};
+constexpr Overview kTroubleshootingOverview{.rows = kTroubleshootingRows};
+
+constexpr Tweak kTweaks[] = {
+    {.id = 273,
+     .title = "Troubleshooting",
+     .description = "Tips and Tweaks to Fix System Problems",
+     .image = 26,
+     .treeParent = kTreeRoot,
+     .page = Page::Category,
+     .overview = &kTroubleshootingOverview},
+    {.id = 295,
+     .title = "Change the Active Desktop Safe Mode Background",
+     .description =
+         "When Active Desktop runs into an error it shows a white recovery page. This sets the file shown instead, "
+         "stored as the value Wallpaper of its safe mode settings, for the current user; an empty field removes "
+         "the value.",
+     .treeParent = 273},
+    {.id = 296,
+     .title = "Change the Default Mailbox Sound Setting",
+     .description =
+         "Sets the wave file played for the sound event MailBeep (New Mail Notification) in the current sound "
+         "scheme of the current user. Not every mail program uses this event; an empty field means that no sound "
+         "is played.",
+     .treeParent = 273},
+    {.id = 297,
+     .title = "Change the Default NumLock State",
+     .description =
+         "Decides whether NumLock is on after the current user has logged in and, separately, at the login screen. "
+         "People who type numbers in their password on the keypad want both.",
+     .treeParent = 273},
+    {.id = 298,
+     .title = "Change the Icon Cache Size",
+     .description =
+         "Windows keeps a number of icon pictures ready in a cache. If icons are redrawn slowly or come up wrong, "
+         "a larger cache may help, at the cost of a little memory and disk space."},
+    {.id = 299,
+     .title = "Debug the Windows Update Process",
+     .description =
+         "Makes Windows Update go forward step by step, for finding the point at which an update fails. It sets "
+         "the Active Setup value SteppingMode to Y when checked and to N when unchecked; not every version of "
+         "Windows reads this value.",
+     .treeParent = 273},
+    {.id = 300,
+     .title = "Disable Warnings on Startup",
+     .description =
+         "Suppresses the message boxes that appear at startup, for example when a driver or service could not be "
+         "started. The failures are still found in the event log; useful where nobody sits in front of the screen.",
+     .treeParent = 273},
+    {.id = 301,
+     .title = "Enable Remote Assistance",
+     .description =
+         "Lets users of this Windows XP computer invite somebody to see their screen and help them over the "
+         "network. Clear the box if nobody shall be asked for help in this way.",
+     .treeParent = 273},
+    {.id = 302,
+     .title = "Fix Problem with Athlon Hanging AGP Programs",
+     .description =
+         "On some AMD Athlon computers, programs that use the AGP graphics port hang because of the way large "
+         "memory pages are handled. Checking this keeps Windows from using them; unchecking removes the setting."},
+    {.id = 303,
+     .title = "Run Inserted CD-ROMs Automatically",
+     .description =
+         "Decides whether a CD starts by itself when inserted, for the current user. It sets or clears only the "
+         "CD-ROM bit (20 hexadecimal) of the value NoDriveTypeAutoRun; other drive types keep their setting. Turn "
+         "AutoRun off to be safe from unwanted programs.",
+     .treeParent = 273},
+    {.id = 304,
+     .title = "Show Computer Manufacturer and Support Information",
+     .description =
+         "The General page of System in Control Panel can show a logo, the maker and model of the computer and a "
+         "page with support information. Dealers use it to leave their address."},
+    {.id = 305,
+     .title = "Windows Error Reporting Settings",
+     .description =
+         "When a program or Windows fails, Windows XP offers to send a report to Microsoft. Choose whether reports "
+         "are made at all, whether the user is asked, and for which programs, components and shutdowns.",
+     .treeParent = 273},
+};
+
+}  // namespace
+
+constinit const Unit kTroubleshootingUnit{kTweaks};
+
+}  // namespace korvane

@@ -1,0 +1,189 @@
+// The binding kinds: what one control of a page stands for in the registry.
+// Each kind holds only what it needs; what varies between rows of a kind is a
+// named field. Its show and its apply stand side by side in the .cpp files of
+// this folder.
+#pragma once
+
+#include "pages/OsVersion.h"
+#include "platform/RegistryAccess.h"
+#include "platform/DialogControls.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <variant>
+
+namespace korvane {
+
+class PageContext;
+
+// A control that a row's own routines look after.
+struct Unbound {};
+
+// ---- check boxes -------------------------------------------------------------------------------------------------
+
+// A number that means "checked"; every other number, and none, means unchecked.
+struct DwordFlag {
+    KeyPath key;
+    std::string_view name;
+    std::uint32_t checked = 1;
+    std::uint32_t cleared = 0;
+    bool clearedDeletes = false;
+    // A second value of the same key that must agree to show as checked (it is read only when the first does), and
+    // that is written the same number behind the first.
+    std::string_view alsoName = {};
+};
+
+// As DwordFlag; a missing key is made when the page is applied.
+constexpr DwordFlag PolicyDwordFlag(const KeyPath& key, std::string_view name) {
+    return {.key = key.created.empty() ? key.madeWhole() : key, .name = name};
+}
+
+// 0 means checked; written as 0 and 1.
+constexpr DwordFlag DwordFlagInverted(const KeyPath& key, std::string_view name) {
+    return {.key = key, .name = name, .checked = 0, .cleared = 1};
+}
+
+// The number is handed to the check box as its state; written as 1 and 0.
+struct DwordCheckState {
+    KeyPath key;
+    std::string_view name;
+    bool clearedDeletes = false;
+};
+
+enum class Compare : std::uint8_t { Exact, IgnoreCase, Contains, AsNumber };
+
+// A text that means "checked"; every other text, and none, means unchecked.
+struct StringFlag {
+    KeyPath key;
+    std::string_view name;
+    std::string_view checked = "1";
+    std::string_view cleared = "0";
+    bool clearedDeletes = false;
+    Compare compare = Compare::Exact;
+    ValueType type = ValueType::Sz;
+};
+
+// One bit of a four-byte mask.
+struct MaskBit {
+    KeyPath key;
+    std::string_view name;
+    std::uint8_t byte;  // 0 to 3
+    std::uint8_t bit;   // the mask of the one bit within the byte
+    // The box is checked when the bit is clear.
+    bool checkedWhenClear = false;
+    // The bits of that byte that an apply keeps as they are.
+    std::uint8_t kept = 0xFF;
+    // What the mask holds when it cannot be read.
+    std::uint32_t whenMissing = 0;
+    bool checkedWhenMissing = false;
+};
+
+// A shell verb: a key whose default value is the menu's text, with a subkey "command" whose default value is the
+// command line. Checked makes both, cleared deletes the key with all below it.
+struct ShellVerbKey {
+    KeyPath parent;  // opened
+    std::string_view verb;
+    // Where the menu's text comes from: an edit box of the page, which shows it as well, or the fixed text.
+    int menuTextEdit = 0;
+    std::string_view menuText = {};
+    // The alert that refuses an empty menu text, after the box has been cleared again.
+    int requiredAlert = 0;
+    std::string_view commandLine;
+    std::string_view commandLineOn9x = {};  // empty: the same on every Windows
+    // A second parent: the box shows checked when either has the verb, and clearing deletes it from both.
+    std::optional<KeyPath> twin = {};
+};
+
+using CheckBinding = std::variant<Unbound, DwordFlag, DwordCheckState, StringFlag, MaskBit, ShellVerbKey>;
+
+// ---- edit boxes --------------------------------------------------------------------------------------------------
+
+enum class WhenEmpty : std::uint8_t { Deletes, WritesNothing, WritesEmpty };
+
+struct StringValue {
+    KeyPath key;
+    std::string_view name;
+    WhenEmpty whenEmpty = WhenEmpty::Deletes;
+    ValueType type = ValueType::Sz;
+};
+
+constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view name,
+                                        WhenEmpty whenEmpty = WhenEmpty::Deletes) {
+    return {.key = key, .name = name, .whenEmpty = whenEmpty, .type = ValueType::ExpandSz};
+}
+
+using FieldBinding = std::variant<Unbound, StringValue>;
+
+// ---- combo boxes -------------------------------------------------------------------------------------------------
+
+struct NumberEntry {
+    std::string_view text;
+    std::uint32_t number;
+    bool deletes = false;  // the value is removed instead; no stored number selects this entry
+};
+
+struct TextEntry {
+    std::string_view text;
+    std::string_view stored;
+};
+
+// What an apply does when the combo reports no selection.
+enum class WhenNone : std::uint8_t { Writes, WritesNothing, Deletes };
+
+struct DwordChoice {
+    KeyPath key;
+    std::string_view name;
+    std::span<const NumberEntry> entries;
+    int initial = kNoSelection;  // selected before the value is read, and kept when there is none
+    int unknown = kNoSelection;  // selected for a stored number that no entry has
+    WhenNone whenNone = WhenNone::Writes;
+    // The index that the combo reports for "none", as a number: meant to be written so where a row does not say
+    // otherwise.
+    std::uint32_t noneNumber = 0xFFFFFFFF;
+};
+
+struct StringChoice {
+    KeyPath key;
+    std::string_view name;
+    std::span<const TextEntry> entries;
+    int initial = kNoSelection;
+    int unknown = kNoSelection;
+    Compare compare = Compare::Exact;
+    WhenNone whenNone = WhenNone::Writes;
+    std::string_view noneText = "-1";
+};
+
+using ChoiceBinding = std::variant<Unbound, DwordChoice, StringChoice>;
+
+// ---- lists -------------------------------------------------------------------------------------------------------
+
+// The selected row's index is the number; nothing is read, and nothing written when no row is selected.
+struct DwordRowChoice {
+    KeyPath key;
+    std::string_view name;
+};
+
+using TableBinding = std::variant<Unbound, DwordRowChoice>;
+
+// ---- the engine's side -------------------------------------------------------------------------------------------
+// show* reads the registry into a control that is in its reset state; only a successful read changes it. apply* writes
+// the live control.
+
+void showCheck(PageContext& context, int control, const CheckBinding& binding);
+void applyCheck(PageContext& context, int control, const CheckBinding& binding);
+void showField(PageContext& context, int edit, const FieldBinding& binding);
+void applyField(PageContext& context, int edit, const FieldBinding& binding);
+void fillChoice(PageContext& context, int combo, const ChoiceBinding& binding);  // entries and initial selection
+void showChoice(PageContext& context, int combo, const ChoiceBinding& binding);
+void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding);
+void applyTable(PageContext& context, int list, const TableBinding& binding);
+
+// The decimal number that a text begins with, as the C library's atoi reads it (white space, sign, digits; 0 without
+// digits; out of range saturates).
+int decimalNumber(std::string_view text);
+bool equalIgnoringCase(std::string_view left, std::string_view right);
+bool matches(std::string_view stored, std::string_view wanted, Compare compare);
+
+}  // namespace korvane

@@ -1,0 +1,192 @@
+// Check boxes: the show and the apply of each kind side by side.
+#include "pages/PageContext.h"
+
+#include <array>
+
+namespace korvane {
+namespace {
+
+void show(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&) {}
+
+// ---- DwordFlag
+
+void show(PageContext& context, int control, const DwordFlag& flag) {
+    const OpenedKey key = openKey(context.platform.registry, flag.key.root, flag.key.fullPath());
+    if (!key) {
+        return;
+    }
+    const auto agrees = [&](std::string_view name) {
+        const auto value = readValue(context.platform.registry, key.handle(), name);
+        return value && value->number() == flag.checked;
+    };
+    if (agrees(flag.name) && (flag.alsoName.empty() || agrees(flag.alsoName))) {
+        context.page.setCheck(control, 1);
+    }
+}
+
+void writeOrDelete(PageContext& context, const OpenedKey& key, std::string_view name, bool deletes,
+                   std::uint32_t number) {
+    if (deletes) {
+        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, name));
+    } else {
+        writeNumber(context.platform.registry, key, name, number);
+    }
+}
+
+void apply(PageContext& context, int control, const DwordFlag& flag) {
+    const OpenedKey key = context.openForWriting(flag.key);
+    if (!key) {
+        return;
+    }
+    const bool checked = context.checked(control);
+    const bool deletes = !checked && flag.clearedDeletes;
+    const std::uint32_t number = checked ? flag.checked : flag.cleared;
+    writeOrDelete(context, key, flag.name, deletes, number);
+    if (!flag.alsoName.empty()) {
+        writeOrDelete(context, key, flag.alsoName, deletes, number);
+    }
+}
+
+// ---- DwordCheckState
+
+void show(PageContext& context, int control, const DwordCheckState& state) {
+    if (const auto value = readValue(context.platform.registry, state.key, state.name)) {
+        context.page.setCheck(control, value->number());
+    }
+}
+
+void apply(PageContext& context, int control, const DwordCheckState& state) {
+    if (const OpenedKey key = context.openForWriting(state.key)) {
+        const bool checked = context.checked(control);
+        writeOrDelete(context, key, state.name, !checked && state.clearedDeletes, checked ? 1 : 0);
+    }
+}
+
+// ---- StringFlag
+
+void show(PageContext& context, int control, const StringFlag& flag) {
+    const auto value = readValue(context.platform.registry, flag.key, flag.name);
+    if (value && matches(value->text(), flag.checked, flag.compare)) {
+        context.page.setCheck(control, 1);
+    }
+}
+
+void apply(PageContext& context, int control, const StringFlag& flag) {
+    const OpenedKey key = context.openForWriting(flag.key);
+    if (!key) {
+        return;
+    }
+    const bool checked = context.checked(control);
+    if (!checked && flag.clearedDeletes) {
+        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, flag.name));
+    } else {
+        writeText(context.platform.registry, key, flag.name, checked ? flag.checked : flag.cleared, flag.type);
+    }
+}
+
+// ---- MaskBit
+
+void show(PageContext& context, int control, const MaskBit& mask) {
+    const auto value = readValue(context.platform.registry, mask.key, mask.name);
+    if (!value) {
+        context.page.setCheck(control, mask.checkedWhenMissing ? 1 : 0);
+        return;
+    }
+    const bool bitSet = (value->number() >> (8 * mask.byte) & mask.bit) != 0;
+    context.page.setCheck(control, bitSet != mask.checkedWhenClear ? 1 : 0);
+}
+
+void apply(PageContext& context, int control, const MaskBit& mask) {
+    const OpenedKey key = context.openForWriting(mask.key);
+    if (!key) {
+        return;
+    }
+    const auto value = readValue(context.platform.registry, key.handle(), mask.name);
+    const std::uint32_t old = value ? value->number() : mask.whenMissing;
+    std::array<std::byte, 4> data;
+    for (std::size_t i = 0; i < data.size(); ++i) {
+        data[i] = static_cast<std::byte>(old >> (8 * i));
+    }
+    const auto bit = static_cast<std::byte>(mask.bit);
+    std::byte& byte = data[mask.byte];
+    byte &= static_cast<std::byte>(mask.kept);
+    byte = context.checked(control) != mask.checkedWhenClear ? byte | bit : byte & ~bit;
+    writeBinary(context.platform.registry, key, mask.name, data);
+}
+
+// ---- ShellVerbKey
+
+std::string verbPath(const KeyPath& parent, const ShellVerbKey& verb) {
+    return parent.fullPath() + '\\' + std::string(verb.verb);
+}
+
+void show(PageContext& context, int control, const ShellVerbKey& verb) {
+    OpenedKey key = openKey(context.platform.registry, verb.parent.root, verbPath(verb.parent, verb));
+    if (!key && verb.twin) {
+        key = openKey(context.platform.registry, verb.twin->root, verbPath(*verb.twin, verb));
+    }
+    if (!key) {
+        return;
+    }
+    if (verb.menuTextEdit == 0) {
+        context.page.setCheck(control, 1);
+    } else if (const auto menuText = readValue(context.platform.registry, key.handle(), "")) {
+        context.page.setCheck(control, 1);
+        context.page.setText(verb.menuTextEdit, menuText->text());
+    }
+}
+
+// Windows of a family that the program does not know gets the menu's text as its command line: meant so.
+std::string commandLine(PageContext& context, const ShellVerbKey& verb, const std::string& menuText) {
+    if (verb.commandLineOn9x.empty() || kWindowsNT.contains(context.version)) {
+        return std::string(verb.commandLine);
+    }
+    return kWindows9x.contains(context.version) ? std::string(verb.commandLineOn9x) : menuText;
+}
+
+void createVerb(PageContext& context, const ShellVerbKey& verb, const std::string& menuText) {
+    Registry& registry = context.platform.registry;
+    const std::string path = verb.parent.fullPath();
+    const OpenedKey key = openOrCreate(registry, {verb.parent.root, path, verb.verb});
+    if (!key) {
+        return;
+    }
+    writeText(registry, key, "", menuText);
+    const std::string ownPath = verbPath(verb.parent, verb);
+    const OpenedKey command = openOrCreate(registry, {verb.parent.root, ownPath, "command"});
+    if (command) {
+        context.stampBeforeWrite();
+        writeText(registry, command, "", commandLine(context, verb, menuText));
+    }
+}
+
+void apply(PageContext& context, int control, const ShellVerbKey& verb) {
+    if (!context.checked(control)) {
+        deleteTree(context.platform.registry, verb.parent.root, verbPath(verb.parent, verb));
+        if (verb.twin) {
+            deleteTree(context.platform.registry, verb.twin->root, verbPath(*verb.twin, verb));
+        }
+        return;
+    }
+    const std::string menuText =
+        verb.menuTextEdit == 0 ? std::string(verb.menuText) : context.page.text(verb.menuTextEdit);
+    if (menuText.empty() && verb.requiredAlert != 0) {
+        context.page.setCheck(control, 0);
+        context.host.alert(verb.requiredAlert);
+        return;
+    }
+    createVerb(context, verb, menuText);
+}
+
+}  // namespace
+
+void showCheck(PageContext& context, int control, const CheckBinding& binding) {
+    std::visit([&](const auto& kind) { show(context, control, kind); }, binding);
+}
+
+void applyCheck(PageContext& context, int control, const CheckBinding& binding) {
+    std::visit([&](const auto& kind) { apply(context, control, kind); }, binding);
+}
+
+}  // namespace korvane

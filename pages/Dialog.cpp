@@ -1,0 +1,23 @@
+// Common behaviour of the program's dialogs.
+#include "pages/Dialog.h"
+
+namespace korvane {
+
+bool CDialog::OnInitDialog(DialogControls& controls) {
+    controls_ = &controls;
+    DoDataExchange();
+    return OnInitDialog();
+}
+
+bool CDialog::applySkin(std::span<const SkinElement> elements) {
+    for (const SkinElement& element : elements) {
+        if (!host_.applySkinElement(controls(), element)) {
+            host_.showSkinFailure();
+            controls().endDialog(0);
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace korvane

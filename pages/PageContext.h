@@ -1,0 +1,65 @@
+// What a show or apply routine reaches: its row, its page, the system, and the
+// main window's services behind a small interface.
+#pragma once
+
+#include "pages/Tweak.h"
+#include "platform/DialogControls.h"
+#include "platform/System.h"
+
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+// How many columns the routines have inserted into the lists of the category and check-list pages since they were last
+// cleared. One count serves both lists: the count, not the control, says how many columns to delete.
+class ListColumns {
+public:
+    void clear(DialogControls& page, int list);
+    void insert(DialogControls& page, int list, std::span<const TableColumn> columns);
+
+private:
+    int count_ = 0;
+};
+
+// The main window's services for its pages.
+class PageHost {
+public:
+    virtual ~PageHost() = default;
+
+    // False for a page that could not be made; page() is for the others.
+    virtual bool hasPage(Page page) = 0;
+    virtual DialogControls& page(Page page) = 0;
+    virtual void showApplyButton() = 0;
+    // Where the button stands, in the page's client area.
+    virtual Rect applyButtonRect(Page page) = 0;
+    // The item's title, ":", a line feed and its description.
+    virtual std::string headerText(int id) = 0;
+    virtual std::string title(int id) = 0;
+    // The language file's text for a control of the item's page, if it has one.
+    virtual void translateControl(DialogControls& page, int id, int control) = 0;
+    virtual std::string dateOf(std::string_view title) = 0;
+    virtual void stamp() = 0;
+    virtual void alert(int stringId) = 0;
+    virtual ListColumns& listColumns() = 0;
+};
+
+class PageContext {
+public:
+    PageContext(PageHost& pageHost, Platform& system, const Tweak& row)
+        : host(pageHost), platform(system), tweak(row), page(pageHost.page(row.page)), version(system.version) {}
+
+    PageHost& host;
+    Platform& platform;
+    const Tweak& tweak;
+    DialogControls& page;
+    const COsVersion version;
+
+    bool checked(int control) const { return page.check(control) == 1; }
+    void setText(int control, std::string_view text);  // and the translation, if there is one
+    // Opens a key for writing, and records the date where the row says that this is the moment.
+    OpenedKey openForWriting(const KeyPath& key);
+    void stampBeforeWrite();
+};
+
+}  // namespace korvane

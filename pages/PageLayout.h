@@ -1,0 +1,43 @@
+// Which controls each page offers, and in which order rows take them.
+#pragma once
+
+#include "pages/Tweak.h"
+
+#include <span>
+
+namespace korvane {
+
+struct RowControls {
+    int label;
+    int edit = 0;   // 0: the row has none
+    int browse = 0;
+    int combo = 0;
+};
+
+struct SkinElement {
+    int control;  // 0: the page itself
+    std::string_view element;
+};
+
+struct PageLayout {
+    int templateId;
+    std::span<const int> members;  // the controls bound to the page's members, in member order
+    std::span<const int> boxes = {};
+    std::span<const RowControls> rows = {};
+    int note = 0;
+    int list = 0;
+    // What HideControls hides.
+    std::span<const int> hidden = {};
+    // The skin elements, in the order in which they are applied.
+    std::span<const SkinElement> skin = {};
+};
+
+// For every page but Page::None.
+const PageLayout& layoutOf(Page page);
+
+// The control ids that a tweak's n-th box, field and choice take on its page; 0 when the page has no such control.
+int boxControl(const Tweak& tweak, std::size_t index);
+RowControls fieldControls(const Tweak& tweak, std::size_t index);
+RowControls choiceControls(const Tweak& tweak, std::size_t index);
+
+}  // namespace korvane

@@ -1,0 +1,139 @@
+// One record of the catalogue: everything about one tweak or category in one
+// place, as data. The item table, the tree, both dispatches, the language keys,
+// kmctl and the generated documentation follow from it.
+#pragma once
+
+#include "pages/Bindings.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace korvane {
+
+// The pages, in the order in which they are made.
+enum class Page : std::uint8_t {
+    Category,
+    Checks,
+    CheckFields,
+    CheckCombos,
+    CheckList,
+    PathFields,
+    Combos,
+    EditCombos,
+    CheckCombo,
+    None,
+};
+constexpr int kPageCount = static_cast<int>(Page::None);
+
+// The controls of a page, top to bottom. Boxes, and the rows of fields and choices, take their page's controls in that
+// order; a page whose rows offer both a field and a choice gives the first rows to the fields.
+struct CheckBox {
+    std::string_view text;
+    CheckBinding binding = Unbound{};
+    int control = 0;  // another box than the next one
+};
+
+struct Field {
+    std::string_view label;
+    FieldBinding binding = Unbound{};
+    bool browse = false;
+    int required = 0;  // the alert that refuses an empty text; 0: an empty text is allowed
+};
+
+struct Choice {
+    std::string_view label;
+    ChoiceBinding binding = Unbound{};
+};
+
+struct TableColumn {
+    std::string_view heading;
+    int width;  // pixels
+};
+
+// A list of choices, or of mere explanations. Cells stand row by row.
+struct Table {
+    std::span<const TableColumn> columns;
+    std::span<const std::string_view> cells;
+    TableBinding binding = Unbound{};
+};
+
+// A category's overview: its tweaks with the dates on which they were last applied.
+struct OverviewRow {
+    int id;
+    std::string_view text = {};    // shown instead of the title
+    std::string_view lookUp = {};  // looked up instead of the title
+};
+
+struct Overview {
+    std::span<const OverviewRow> rows;
+    int nameWidth = 295;  // pixels
+    int dateWidth = 99;
+};
+
+// When an apply records the date, once its gate has passed.
+enum class Stamp : std::uint8_t {
+    BeforeOpening,  // first of all, even if the key then cannot be opened or a required field is empty
+    WhenOpen,       // each time a key has been opened, just before its write
+};
+
+using Routine = void (*)(PageContext&);
+
+constexpr int kTweakImage = 2;
+constexpr int kNoTreeRow = -2;
+constexpr int kTreeRoot = -1;
+constexpr int kItemCount = 311;
+
+struct Tweak {
+    int id;
+    std::string_view title;
+    std::string_view description;
+    int image = kTweakImage;       // index into the tree's images; every category has one of its own
+    int treeParent = kNoTreeRow;   // the ItemId of the row above
+    std::string_view treeText = {};  // the row's text where it differs from the title
+    Page page = Page::None;
+    std::span<const CheckBox> boxes = {};
+    std::span<const Field> fields = {};
+    std::span<const Choice> choices = {};
+    const Table* table = nullptr;
+    const Overview* overview = nullptr;
+    std::string_view note = {};
+    Gate gate = kNoGate;
+    bool putBoxesBack = false;  // a refusal inverts the boxes, undoing the user's click
+    Stamp stamp = Stamp::BeforeOpening;
+    bool showOnly = false;
+    // Routines of a tweak that fits no kind: the first runs behind the common part of a show, the second in place of
+    // the common writes (gate, date and required fields still come first).
+    Routine show = nullptr;
+    Routine apply = nullptr;
+
+    constexpr bool isCategory() const { return image != kTweakImage; }
+    constexpr bool hasShow() const { return page != Page::None; }
+    constexpr bool hasApply() const { return hasShow() && !isCategory() && !showOnly; }
+    constexpr std::string_view treeRowText() const { return treeText.empty() ? title : treeText; }
+};
+
+// The same control twice: the first for the current user, the second for all users. The binding names the key under
+// the current user.
+template <typename Binding>
+constexpr Binding underLocalMachine(Binding binding) {
+    binding.key = binding.key.under(Root::LocalMachine);
+    return binding;
+}
+
+template <typename Binding>
+constexpr std::array<CheckBox, 2> ScopePair(std::string_view currentUser, std::string_view allUsers, Binding binding) {
+    return {CheckBox{currentUser, binding}, CheckBox{allUsers, underLocalMachine(binding)}};
+}
+
+template <typename Binding>
+constexpr std::array<Choice, 2> ScopePairOfChoices(std::string_view currentUser, std::string_view allUsers,
+                                                   Binding binding) {
+    return {Choice{currentUser, binding}, Choice{allUsers, underLocalMachine(binding)}};
+}
+
+constexpr std::string_view kRestartOrLogOutNote =
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect.";
+
+}  // namespace korvane

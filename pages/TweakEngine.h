@@ -1,0 +1,17 @@
+// The common course of every show and apply routine, once for all rows.
+#pragma once
+
+#include "pages/PageContext.h"
+
+namespace korvane {
+
+// Shows the tweak's page: controls visible and labelled, header, every control reset, then the registry read.
+void showTweak(PageContext& context);
+
+// Writes the page back: gate, date, required fields, writes.
+void applyTweak(PageContext& context);
+
+// Fills a category's list of titles and dates.
+void showOverview(PageContext& context);
+
+}  // namespace korvane
