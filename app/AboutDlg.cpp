@@ -1,4 +1,4 @@
-// The About box's skin.
+// The About box's texts and skin.
 #include "app/AboutDlg.h"
 
 #include "res/ControlIds.h"
@@ -15,6 +15,9 @@ constexpr SkinElement kSkin[] = {{0, "Main"},
 
 }  // namespace
 
-bool CAboutDlg::OnInitDialog() { return applySkin(kSkin); }
+bool CAboutDlg::OnInitDialog() {
+    language_.translateDialog(controls(), IDD_ABOUT);
+    return applySkin(kSkin);
+}
 
 }  // namespace korvane

@@ -8,9 +8,9 @@ namespace {
 
 // The tree's control number: the section of the item texts. Keys are the ItemId with one of these digits behind it.
 constexpr std::string_view kItemsSection = "1004";
-constexpr int kIdDigit = 1;
-constexpr int kTitleDigit = 2;
-constexpr int kDescriptionDigit = 3;
+constexpr char kIdDigit = '1';
+constexpr char kTitleDigit = '2';
+constexpr char kDescriptionDigit = '3';
 
 }  // namespace
 
@@ -25,9 +25,8 @@ void ItemTable::build() {
 
 void ItemTable::translate(const LanguageFile& language) {
     for (std::size_t n = 0; n < items_.size(); ++n) {
-        const auto lookUp = [&](int digit) {
-            return language.text(kItemsSection, static_cast<int>(n) * 10 + digit);
-        };
+        // Also for record 0 the digit stands behind the number: "02" is its title.
+        const auto lookUp = [&](char digit) { return language.text(kItemsSection, std::to_string(n) + digit); };
         if (const std::string id = lookUp(kIdDigit); !id.empty()) {
             items_[n].id = decimalNumber(id);
         }

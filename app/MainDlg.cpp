@@ -203,7 +203,7 @@ void CMainDlg::OnApplyChanges() {
 }
 
 void CMainDlg::OnAbout() {
-    CAboutDlg about(*this);
+    CAboutDlg about(*this, language_);
     window_.runAboutBox(about);
 }
 
@@ -243,8 +243,10 @@ Rect CMainDlg::applyButtonRect(Page page) {
     return {button.left - area.left, button.top - area.top, button.right - area.left, button.bottom - area.top};
 }
 
-void CMainDlg::translateControl(DialogControls& page, int id, int control) {
-    language_.translateControl(page, itemSection(id), control);
+std::string CMainDlg::translated(int id, const std::string& key, std::string_view text) {
+    const std::string section = id == kOverviewTexts ? std::to_string(IDD_CATEGORY) : itemSection(id);
+    std::string found = language_.text(section, key);
+    return found.empty() ? std::string(text) : found;
 }
 
 void CMainDlg::stamp() {

@@ -43,7 +43,7 @@ private:
     Rect applyButtonRect(Page page) override;
     std::string headerText(int id) override { return app_.items().headerText(id); }
     std::string title(int id) override { return app_.items().title(id); }
-    void translateControl(DialogControls& page, int id, int control) override;
+    std::string translated(int id, const std::string& key, std::string_view text) override;
     std::string dateOf(std::string_view title) override { return dates_.LookUp(title); }
     void stamp() override;
     void alert(int stringId) override;

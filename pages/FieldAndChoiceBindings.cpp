@@ -36,8 +36,9 @@ void apply(PageContext& context, int edit, const StringValue& binding) {
 template <typename Binding>
 void fillEntries(PageContext& context, int combo, const Binding& binding) {
     context.page.resetCombo(combo);
+    int index = 0;
     for (const auto& entry : binding.entries) {
-        context.page.addComboEntry(combo, entry.text);
+        context.page.addComboEntry(combo, context.translatedEntry(combo, index++, entry.text));
     }
     context.page.selectComboEntry(combo, binding.initial);
 }

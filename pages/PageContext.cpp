@@ -10,18 +10,27 @@ void ListColumns::clear(DialogControls& page, int list) {
     count_ = 0;
 }
 
-void ListColumns::insert(DialogControls& page, int list, std::span<const TableColumn> columns) {
-    int index = 0;
-    for (const TableColumn& column : columns) {
-        page.insertColumn(list, index++, column.heading, column.width);
-    }
-    count_ += index;
+void ListColumns::insert(DialogControls& page, int list, std::string_view heading, int width) {
+    page.insertColumn(list, count_, heading, width);
+    ++count_;
 }
 
-void PageContext::setText(int control, std::string_view text) {
-    page.setText(control, text);
-    host.translateControl(page, tweak.id, control);
+std::string PageContext::translated(int control, std::string_view text) const {
+    return host.translated(tweak.id, std::to_string(control), text);
 }
+
+std::string PageContext::translatedEntry(int combo, int index, std::string_view text) const {
+    const bool number = text.find_first_not_of("0123456789") == std::string_view::npos;
+    return number ? std::string(text)
+                  : host.translated(tweak.id, std::to_string(combo) + "." + std::to_string(index), text);
+}
+
+std::string PageContext::translatedCell(int list, std::string_view row, int column, std::string_view text) const {
+    const std::string key = std::to_string(list) + "." + std::string(row) + "." + std::to_string(column);
+    return host.translated(tweak.isCategory() ? kOverviewTexts : tweak.id, key, text);
+}
+
+void PageContext::setText(int control, std::string_view text) { page.setText(control, translated(control, text)); }
 
 OpenedKey PageContext::openForWriting(const KeyPath& key) {
     OpenedKey opened = openOrCreate(platform.registry, key);

@@ -16,7 +16,7 @@ namespace korvane {
 class ListColumns {
 public:
     void clear(DialogControls& page, int list);
-    void insert(DialogControls& page, int list, std::span<const TableColumn> columns);
+    void insert(DialogControls& page, int list, std::string_view heading, int width);
 
 private:
     int count_ = 0;
@@ -36,13 +36,16 @@ public:
     // The item's title, ":", a line feed and its description.
     virtual std::string headerText(int id) = 0;
     virtual std::string title(int id) = 0;
-    // The language file's text for a control of the item's page, if it has one.
-    virtual void translateControl(DialogControls& page, int id, int control) = 0;
+    // The language file's text for that key of the item's page, or, with kOverviewTexts, for all overviews; without
+    // one the given text.
+    virtual std::string translated(int id, const std::string& key, std::string_view text) = 0;
     virtual std::string dateOf(std::string_view title) = 0;
     virtual void stamp() = 0;
     virtual void alert(int stringId) = 0;
     virtual ListColumns& listColumns() = 0;
 };
+
+constexpr int kOverviewTexts = -1;
 
 class PageContext {
 public:
@@ -56,7 +59,12 @@ public:
     const COsVersion version;
 
     bool checked(int control) const { return page.check(control) == 1; }
-    void setText(int control, std::string_view text);  // and the translation, if there is one
+    // The text in the user's language. Controls are looked up by their id ("1013"), entries of a combo by id and index
+    // ("1021.0"), headings and cells of a table by id, row (from 0; "c" for the heading) and column ("1007.0.1").
+    std::string translated(int control, std::string_view text) const;
+    std::string translatedEntry(int combo, int index, std::string_view text) const;
+    std::string translatedCell(int list, std::string_view row, int column, std::string_view text) const;
+    void setText(int control, std::string_view text);  // translated
     // Opens a key for writing, and records the date where the row says that this is the moment.
     OpenedKey openForWriting(const KeyPath& key);
     void stampBeforeWrite();

@@ -51,20 +51,33 @@ void resetChoices(PageContext& context) {
     }
 }
 
+// Empties a list and gives it its columns.
+void startList(PageContext& context, int list, std::span<const TableColumn> columns) {
+    ListColumns& count = context.host.listColumns();
+    context.page.deleteRows(list);
+    count.clear(context.page, list);
+    int index = 0;
+    for (const TableColumn& column : columns) {
+        count.insert(context.page, list, context.translatedCell(list, "c", index++, column.heading), column.width);
+    }
+}
+
 void fillTable(PageContext& context) {
     const Table& table = *context.tweak.table;
     const int list = layoutOf(context.tweak.page).list;
-    context.page.deleteRows(list);
-    context.host.listColumns().clear(context.page, list);
-    context.host.listColumns().insert(context.page, list, table.columns);
-    const std::size_t columns = table.columns.size();
-    for (std::size_t cell = 0; cell < table.cells.size(); ++cell) {
-        const int row = static_cast<int>(cell / columns);
-        if (cell % columns == 0) {
-            context.page.insertRow(list, row, table.cells[cell]);
+    startList(context, list, table.columns);
+    const int columns = static_cast<int>(table.columns.size());
+    int cell = 0;
+    for (const std::string_view text : table.cells) {
+        const int row = cell / columns;
+        const int column = cell % columns;
+        const std::string shown = context.translatedCell(list, std::to_string(row), column, text);
+        if (column == 0) {
+            context.page.insertRow(list, row, shown);
         } else {
-            context.page.setCell(list, row, static_cast<int>(cell % columns), table.cells[cell]);
+            context.page.setCell(list, row, column, shown);
         }
+        ++cell;
     }
     context.page.showControl(list, true);
 }
@@ -183,9 +196,7 @@ void showOverview(PageContext& context) {
     context.page.show(true);
     context.page.showControl(IDC_LIST, true);
     showHeader(context);
-    context.page.deleteRows(IDC_LIST);
-    context.host.listColumns().clear(context.page, IDC_LIST);
-    context.host.listColumns().insert(context.page, IDC_LIST, columns);
+    startList(context, IDC_LIST, columns);
     int index = 0;
     for (const OverviewRow& row : overview.rows) {
         const std::string title = context.host.title(row.id);
