@@ -126,6 +126,9 @@ void writePage(Writer& writer, const Tweak& tweak) {
     for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
         writer.value(fieldControls(tweak, i).label, tweak.fields[i].label);
     }
+    if (tweak.colour != nullptr) {
+        writer.value(IDC_LABEL1, tweak.colour->label);
+    }
     for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
         const RowControls row = choiceControls(tweak, i);
         writer.value(row.label, tweak.choices[i].label);

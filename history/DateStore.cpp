@@ -14,7 +14,7 @@ constexpr std::string_view kDefaultLanguage{"English\0", 8};    // written with 
 
 std::string keyOf(std::string_view title) { return "korvane(\"" + std::string(title) + "\""; }
 
-void replaceAll(std::string& text, const std::string& from, const std::string& to) {
+void replaceRecords(std::string& text, const std::string& from, const std::string& to) {
     for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
         text.replace(at, from.size(), to);
     }
@@ -139,7 +139,7 @@ bool DateStore::replaceRecord(std::string& text, std::string_view title) {
     }
     const std::size_t end = text.find('\r', start);
     const std::string old = text.substr(start, end == std::string::npos ? end : end - start);
-    replaceAll(text, old, record(title));
+    replaceRecords(text, old, record(title));
     return true;
 }
 

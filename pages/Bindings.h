@@ -30,6 +30,7 @@ struct DwordFlag {
     std::uint32_t checked = 1;
     std::uint32_t cleared = 0;
     bool clearedDeletes = false;
+    bool clearedDeletesByPath = false;  // deletes without opening, and so without making, the key
     // A second value of the same key that must agree to show as checked (it is read only when the first does), and
     // that is written the same number behind the first.
     std::string_view alsoName = {};
@@ -61,8 +62,33 @@ struct StringFlag {
     std::string_view checked = "1";
     std::string_view cleared = "0";
     bool clearedDeletes = false;
+    bool checkedWhenPresent = false;  // whatever the value holds
     Compare compare = Compare::Exact;
     ValueType type = ValueType::Sz;
+    std::optional<KeyPath> also = {};  // a second key, written like the first
+};
+
+// Fixed bytes that mean "checked" and "cleared".
+struct BinaryFlag {
+    // What shows as checked: the first four bytes as the number that `checked` holds, or any data at all.
+    enum class Shown : std::uint8_t { SameNumber, Present };
+
+    KeyPath key;
+    std::string_view name;
+    std::span<const std::byte> checked;
+    std::span<const std::byte> cleared = {};  // empty: the value is deleted
+    Shown shown = Shown::SameNumber;
+};
+
+// A subkey that is there or not. Checked makes it, or, with `checkedWhenAbsent`, deletes it.
+struct SubkeyFlag {
+    KeyPath parent;
+    std::string_view name;
+    bool checkedWhenAbsent = false;
+    bool deletesTree = false;          // otherwise only a key without subkeys is deleted
+    std::string_view text = {};        // written as the default value of a subkey that is made
+    bool shownByText = false;          // present means: its default value is that text
+    Compare compare = Compare::Exact;
 };
 
 // One bit of a four-byte mask.
@@ -78,6 +104,7 @@ struct MaskBit {
     // What the mask holds when it cannot be read.
     std::uint32_t whenMissing = 0;
     bool checkedWhenMissing = false;
+    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
 // A shell verb: a key whose default value is the menu's text, with a subkey "command" whose default value is the
@@ -96,17 +123,31 @@ struct ShellVerbKey {
     std::optional<KeyPath> twin = {};
 };
 
-using CheckBinding = std::variant<Unbound, DwordFlag, DwordCheckState, StringFlag, MaskBit, ShellVerbKey>;
+using CheckBinding = 
+    std::variant<Unbound, DwordFlag, DwordCheckState, StringFlag, BinaryFlag, SubkeyFlag, MaskBit, ShellVerbKey>;
 
 // ---- edit boxes --------------------------------------------------------------------------------------------------
 
 enum class WhenEmpty : std::uint8_t { Deletes, WritesNothing, WritesEmpty };
+
+// A folder that is stored as a variable and shown written out: plain, case-sensitive replacement of every occurrence.
+enum class Folding : std::uint8_t {
+    None,
+    WindowsFolder,  // %SystemRoot%
+    ProfilePrefix,  // %USERPROFILE%; the prefix ends with its separator, so a shown path has it twice: meant so
+};
 
 struct StringValue {
     KeyPath key;
     std::string_view name;
     WhenEmpty whenEmpty = WhenEmpty::Deletes;
     ValueType type = ValueType::Sz;
+    Folding folding = Folding::None;
+    bool withoutQuotes = false;  // double quotation marks are removed before anything else looks at the text
+    // Appended to what is written; what is shown ends before the first occurrence of `suffixStart`.
+    std::string_view suffix = {};
+    std::string_view suffixStart = {};
+    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
 constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view name,
@@ -114,7 +155,15 @@ constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view nam
     return {.key = key, .name = name, .whenEmpty = whenEmpty, .type = ValueType::ExpandSz};
 }
 
-using FieldBinding = std::variant<Unbound, StringValue>;
+// A number shown and typed in decimal; a text without leading digits is 0.
+struct DwordNumber {
+    KeyPath key;
+    std::string_view name;
+    WhenEmpty whenEmpty = WhenEmpty::WritesEmpty;  // written empty: 0
+    std::optional<int> minimum = {};               // a smaller number writes nothing
+};
+
+using FieldBinding = std::variant<Unbound, StringValue, DwordNumber>;
 
 // ---- combo boxes -------------------------------------------------------------------------------------------------
 
@@ -130,12 +179,26 @@ struct TextEntry {
 };
 
 // What an apply does when the combo reports no selection.
-enum class WhenNone : std::uint8_t { Writes, WritesNothing, Deletes };
+enum class WhenNone : std::uint8_t {
+    Writes,
+    WritesNothing,
+    Deletes,
+    DeletesInOpenKey,  // the key is opened, or made, first
+};
+
+// Entries "first" to "last", each the decimal text of its own number.
+struct NumberRange {
+    int first = 0;
+    int last = -1;
+
+    constexpr int size() const { return last - first + 1; }
+};
 
 struct DwordChoice {
     KeyPath key;
     std::string_view name;
-    std::span<const NumberEntry> entries;
+    std::span<const NumberEntry> entries = {};
+    NumberRange range = {};  // instead of entries
     int initial = kNoSelection;  // selected before the value is read, and kept when there is none
     int unknown = kNoSelection;  // selected for a stored number that no entry has
     WhenNone whenNone = WhenNone::Writes;
@@ -147,15 +210,42 @@ struct DwordChoice {
 struct StringChoice {
     KeyPath key;
     std::string_view name;
-    std::span<const TextEntry> entries;
+    std::span<const TextEntry> entries = {};
+    NumberRange range = {};  // instead of entries; the stored text is the number
     int initial = kNoSelection;
     int unknown = kNoSelection;
     Compare compare = Compare::Exact;
     WhenNone whenNone = WhenNone::Writes;
     std::string_view noneText = "-1";
+    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
-using ChoiceBinding = std::variant<Unbound, DwordChoice, StringChoice>;
+// Entries whose routines stand beside the row.
+struct PlainEntry {
+    std::string_view text;
+};
+
+struct ChoiceEntries {
+    std::span<const PlainEntry> entries;
+};
+
+using ChoiceBinding = std::variant<Unbound, DwordChoice, StringChoice, ChoiceEntries>;
+
+// ---- the colour list ---------------------------------------------------------------------------------------------
+
+// "R G B" in decimal.
+struct ColourText {
+    KeyPath key;
+    std::string_view name;
+};
+
+// Four bytes: red, green, blue, 0.
+struct ColourBinary {
+    KeyPath key;
+    std::string_view name;
+};
+
+using ColourBinding = std::variant<Unbound, ColourText, ColourBinary>;
 
 // ---- lists -------------------------------------------------------------------------------------------------------
 
@@ -178,11 +268,21 @@ void applyField(PageContext& context, int edit, const FieldBinding& binding);
 void fillChoice(PageContext& context, int combo, const ChoiceBinding& binding);  // entries and initial selection
 void showChoice(PageContext& context, int combo, const ChoiceBinding& binding);
 void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding);
+void showColour(PageContext& context, int combo, const ColourBinding& binding);
+void applyColour(PageContext& context, int combo, const ColourBinding& binding);
 void applyTable(PageContext& context, int list, const TableBinding& binding);
+
+// Three numbers with single blanks between them, each taken modulo 256.
+Colour parseColour(std::string_view text);
+std::string formatColour(Colour colour);
 
 // The decimal number that a text begins with, as the C library's atoi reads it (white space, sign, digits; 0 without
 // digits; out of range saturates).
 int decimalNumber(std::string_view text);
+// Every occurrence, left to right; an empty `from` replaces nothing.
+void replaceAll(std::string& text, std::string_view from, std::string_view to);
+// The user's profile folder with its separator; empty where Windows has no profiles.
+std::string profilePrefix(const PageContext& context);
 bool equalIgnoringCase(std::string_view left, std::string_view right);
 bool matches(std::string_view stored, std::string_view wanted, Compare compare);
 

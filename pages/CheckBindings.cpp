@@ -1,6 +1,7 @@
 // Check boxes: the show and the apply of each kind side by side.
 #include "pages/PageContext.h"
 
+#include <algorithm>
 #include <array>
 
 namespace korvane {
@@ -9,10 +10,14 @@ namespace {
 void show(PageContext&, int, const Unbound&) {}
 void apply(PageContext&, int, const Unbound&) {}
 
+void removeFrom(PageContext& context, const OpenedKey& key, std::string_view name) {
+    ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, name));
+}
+
 // ---- DwordFlag
 
 void show(PageContext& context, int control, const DwordFlag& flag) {
-    const OpenedKey key = openKey(context.platform.registry, flag.key.root, flag.key.fullPath());
+    const OpenedKey key = context.open(flag.key);
     if (!key) {
         return;
     }
@@ -28,18 +33,22 @@ void show(PageContext& context, int control, const DwordFlag& flag) {
 void writeOrDelete(PageContext& context, const OpenedKey& key, std::string_view name, bool deletes,
                    std::uint32_t number) {
     if (deletes) {
-        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, name));
+        removeFrom(context, key, name);
     } else {
         writeNumber(context.platform.registry, key, name, number);
     }
 }
 
 void apply(PageContext& context, int control, const DwordFlag& flag) {
+    const bool checked = context.checked(control);
+    if (!checked && flag.clearedDeletesByPath) {
+        context.remove(flag.key, flag.name);
+        return;
+    }
     const OpenedKey key = context.openForWriting(flag.key);
     if (!key) {
         return;
     }
-    const bool checked = context.checked(control);
     const bool deletes = !checked && flag.clearedDeletes;
     const std::uint32_t number = checked ? flag.checked : flag.cleared;
     writeOrDelete(context, key, flag.name, deletes, number);
@@ -51,7 +60,7 @@ void apply(PageContext& context, int control, const DwordFlag& flag) {
 // ---- DwordCheckState
 
 void show(PageContext& context, int control, const DwordCheckState& state) {
-    if (const auto value = readValue(context.platform.registry, state.key, state.name)) {
+    if (const auto value = context.read(state.key, state.name)) {
         context.page.setCheck(control, value->number());
     }
 }
@@ -66,29 +75,95 @@ void apply(PageContext& context, int control, const DwordCheckState& state) {
 // ---- StringFlag
 
 void show(PageContext& context, int control, const StringFlag& flag) {
-    const auto value = readValue(context.platform.registry, flag.key, flag.name);
-    if (value && matches(value->text(), flag.checked, flag.compare)) {
+    const auto value = context.read(flag.key, flag.name);
+    if (value && (flag.checkedWhenPresent || matches(value->text(), flag.checked, flag.compare))) {
         context.page.setCheck(control, 1);
     }
 }
 
-void apply(PageContext& context, int control, const StringFlag& flag) {
-    const OpenedKey key = context.openForWriting(flag.key);
+void writeFlag(PageContext& context, int control, const StringFlag& flag, const KeyPath& path) {
+    const OpenedKey key = context.openForWriting(path);
     if (!key) {
         return;
     }
     const bool checked = context.checked(control);
     if (!checked && flag.clearedDeletes) {
-        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, flag.name));
+        removeFrom(context, key, flag.name);
     } else {
         writeText(context.platform.registry, key, flag.name, checked ? flag.checked : flag.cleared, flag.type);
+    }
+}
+
+void apply(PageContext& context, int control, const StringFlag& flag) {
+    writeFlag(context, control, flag, flag.key);
+    if (flag.also) {
+        writeFlag(context, control, flag, *flag.also);
+    }
+}
+
+// ---- BinaryFlag
+
+void show(PageContext& context, int control, const BinaryFlag& flag) {
+    StoredValue wanted;
+    wanted.size = flag.checked.size();
+    std::ranges::copy(flag.checked, wanted.data.begin());
+    const auto value = context.read(flag.key, flag.name);
+    if (value && (flag.shown == BinaryFlag::Shown::Present || value->number() == wanted.number())) {
+        context.page.setCheck(control, 1);
+    }
+}
+
+void apply(PageContext& context, int control, const BinaryFlag& flag) {
+    const OpenedKey key = context.openForWriting(flag.key);
+    if (!key) {
+        return;
+    }
+    const std::span<const std::byte> data = context.checked(control) ? flag.checked : flag.cleared;
+    if (data.empty()) {
+        removeFrom(context, key, flag.name);
+    } else {
+        writeBinary(context.platform.registry, key, flag.name, data);
+    }
+}
+
+// ---- SubkeyFlag
+
+bool present(PageContext& context, const SubkeyFlag& flag) {
+    const KeyPath parent = flag.parent.on(context.version);
+    const std::string path = parent.fullPath() + '\\' + std::string(flag.name);
+    const OpenedKey key = openKey(context.platform.registry, parent.root, path);
+    if (!key || !flag.shownByText) {
+        return static_cast<bool>(key);
+    }
+    const auto text = readValue(context.platform.registry, key.handle(), "");
+    return text && matches(text->text(), flag.text, flag.compare);
+}
+
+void show(PageContext& context, int control, const SubkeyFlag& flag) {
+    context.page.setCheck(control, present(context, flag) != flag.checkedWhenAbsent ? 1 : 0);
+}
+
+void apply(PageContext& context, int control, const SubkeyFlag& flag) {
+    Registry& registry = context.platform.registry;
+    const OpenedKey parent = context.openForWriting(flag.parent);
+    if (!parent) {
+        return;
+    }
+    if (context.checked(control) == flag.checkedWhenAbsent) {
+        ignoreFailure(flag.deletesTree ? registry.deleteTree(parent.handle(), flag.name)
+                                       : registry.deleteKey(parent.handle(), flag.name));
+        return;
+    }
+    RegistryHandle made;
+    if (registry.createKey(parent.handle(), flag.name, made) == Status::Success && !flag.text.empty()) {
+        ignoreFailure(registry.setValue(made, "", ValueType::Sz, std::as_bytes(std::span(flag.text))));
     }
 }
 
 // ---- MaskBit
 
 void show(PageContext& context, int control, const MaskBit& mask) {
-    const auto value = readValue(context.platform.registry, mask.key, mask.name);
+    const auto value = context.read(mask.key, mask.name);
     if (!value) {
         context.page.setCheck(control, mask.checkedWhenMissing ? 1 : 0);
         return;
@@ -97,8 +172,8 @@ void show(PageContext& context, int control, const MaskBit& mask) {
     context.page.setCheck(control, bitSet != mask.checkedWhenClear ? 1 : 0);
 }
 
-void apply(PageContext& context, int control, const MaskBit& mask) {
-    const OpenedKey key = context.openForWriting(mask.key);
+void writeMask(PageContext& context, int control, const MaskBit& mask, const KeyPath& path) {
+    const OpenedKey key = context.openForWriting(path);
     if (!key) {
         return;
     }
@@ -113,6 +188,13 @@ void apply(PageContext& context, int control, const MaskBit& mask) {
     byte &= static_cast<std::byte>(mask.kept);
     byte = context.checked(control) != mask.checkedWhenClear ? byte | bit : byte & ~bit;
     writeBinary(context.platform.registry, key, mask.name, data);
+}
+
+void apply(PageContext& context, int control, const MaskBit& mask) {
+    writeMask(context, control, mask, mask.key);
+    if (mask.also) {
+        writeMask(context, control, mask, *mask.also);
+    }
 }
 
 // ---- ShellVerbKey
@@ -161,12 +243,20 @@ void createVerb(PageContext& context, const ShellVerbKey& verb, const std::strin
     }
 }
 
+void deleteVerb(PageContext& context, const ShellVerbKey& verb) {
+    Registry& registry = context.platform.registry;
+    if (verb.twin && !context.open(verb.parent)) {
+        return;
+    }
+    deleteTree(registry, verb.parent.root, verbPath(verb.parent, verb));
+    if (verb.twin) {
+        deleteTree(registry, verb.twin->root, verbPath(*verb.twin, verb));
+    }
+}
+
 void apply(PageContext& context, int control, const ShellVerbKey& verb) {
     if (!context.checked(control)) {
-        deleteTree(context.platform.registry, verb.parent.root, verbPath(verb.parent, verb));
-        if (verb.twin) {
-            deleteTree(context.platform.registry, verb.twin->root, verbPath(*verb.twin, verb));
-        }
+        deleteVerb(context, verb);
         return;
     }
     const std::string menuText =

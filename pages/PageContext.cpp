@@ -32,8 +32,21 @@ std::string PageContext::translatedCell(int list, std::string_view row, int colu
 
 void PageContext::setText(int control, std::string_view text) { page.setText(control, translated(control, text)); }
 
+OpenedKey PageContext::open(const KeyPath& key) const {
+    return openKey(platform.registry, key.root, key.on(version).fullPath());
+}
+
+std::optional<StoredValue> PageContext::read(const KeyPath& key, std::string_view name) const {
+    const OpenedKey opened = open(key);
+    return opened ? readValue(platform.registry, opened.handle(), name) : std::nullopt;
+}
+
+void PageContext::remove(const KeyPath& key, std::string_view name) const {
+    deleteValue(platform.registry, key.on(version), name);
+}
+
 OpenedKey PageContext::openForWriting(const KeyPath& key) {
-    OpenedKey opened = openOrCreate(platform.registry, key);
+    OpenedKey opened = openOrCreate(platform.registry, key.on(version));
     if (opened) {
         stampBeforeWrite();
     }

@@ -65,6 +65,10 @@ public:
     std::string translatedEntry(int combo, int index, std::string_view text) const;
     std::string translatedCell(int list, std::string_view row, int column, std::string_view text) const;
     void setText(int control, std::string_view text);  // translated
+    // Keys as the running Windows has them.
+    OpenedKey open(const KeyPath& key) const;
+    std::optional<StoredValue> read(const KeyPath& key, std::string_view name) const;
+    void remove(const KeyPath& key, std::string_view name) const;  // by the full path; needs no open key
     // Opens a key for writing, and records the date where the row says that this is the moment.
     OpenedKey openForWriting(const KeyPath& key);
     void stampBeforeWrite();

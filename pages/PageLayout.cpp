@@ -136,7 +136,7 @@ int boxControl(const Tweak& tweak, std::size_t index) {
 RowControls fieldControls(const Tweak& tweak, std::size_t index) { return rowControls(tweak, index); }
 
 RowControls choiceControls(const Tweak& tweak, std::size_t index) {
-    return rowControls(tweak, tweak.fields.size() + index);
+    return rowControls(tweak, tweak.fields.size() + (tweak.colour == nullptr ? 0 : 1) + index);
 }
 
 }  // namespace korvane

@@ -47,6 +47,11 @@ struct Choice {
     ChoiceBinding binding = Unbound{};
 };
 
+struct ColourField {
+    std::string_view label;
+    ColourBinding binding = Unbound{};
+};
+
 struct TableColumn {
     std::string_view heading;
     int width;  // pixels
@@ -96,6 +101,7 @@ struct Tweak {
     std::span<const CheckBox> boxes = {};
     std::span<const Field> fields = {};
     std::span<const Choice> choices = {};
+    const ColourField* colour = nullptr;  // takes the first row of its page
     const Table* table = nullptr;
     const Overview* overview = nullptr;
     std::string_view note = {};

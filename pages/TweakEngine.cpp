@@ -51,6 +51,14 @@ void resetChoices(PageContext& context) {
     }
 }
 
+// The colour list keeps its row: it has no reset state.
+void resetColour(PageContext& context) {
+    if (context.tweak.colour != nullptr) {
+        showText(context, IDC_LABEL1, context.tweak.colour->label);
+        context.page.showControl(IDC_COLOUR_COMBO, true);
+    }
+}
+
 // Empties a list and gives it its columns.
 void startList(PageContext& context, int list, std::span<const TableColumn> columns) {
     ListColumns& count = context.host.listColumns();
@@ -110,6 +118,9 @@ void readControls(PageContext& context) {
     for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
         showField(context, fieldControls(tweak, i).edit, tweak.fields[i].binding);
     }
+    if (tweak.colour != nullptr) {
+        showColour(context, IDC_COLOUR_COMBO, tweak.colour->binding);
+    }
     for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
         showChoice(context, choiceControls(tweak, i).combo, tweak.choices[i].binding);
     }
@@ -122,6 +133,9 @@ void writeControls(PageContext& context) {
     }
     for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
         applyField(context, fieldControls(tweak, i).edit, tweak.fields[i].binding);
+    }
+    if (tweak.colour != nullptr) {
+        applyColour(context, IDC_COLOUR_COMBO, tweak.colour->binding);
     }
     for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
         applyChoice(context, choiceControls(tweak, i).combo, tweak.choices[i].binding);
@@ -161,6 +175,7 @@ void showTweak(PageContext& context) {
     showHeader(context);
     resetBoxes(context);
     resetFields(context);
+    resetColour(context);
     resetChoices(context);
     if (context.tweak.table != nullptr) {
         fillTable(context);

@@ -63,11 +63,6 @@ std::optional<StoredValue> readValue(Registry& registry, const RegistryHandle& k
     return value;
 }
 
-std::optional<StoredValue> readValue(Registry& registry, const KeyPath& key, std::string_view name) {
-    const OpenedKey opened = openKey(registry, key.root, key.fullPath());
-    return opened ? readValue(registry, opened.handle(), name) : std::nullopt;
-}
-
 void writeNumber(Registry& registry, const OpenedKey& key, std::string_view name, std::uint32_t number) {
     std::array<std::byte, 4> data;
     for (std::size_t i = 0; i < data.size(); ++i) {

@@ -4,6 +4,7 @@
 // reset, what cannot be written is left out.
 #pragma once
 
+#include "platform/OsVersion.h"
 #include "platform/Registry.h"
 
 #include <array>
@@ -21,10 +22,27 @@ struct KeyPath {
     Root root;
     std::string_view path;
     std::string_view created = {};
+    // On the versions of the set the same value lives elsewhere in the same root.
+    VersionSet otherOn = {};
+    std::string_view otherPath = {};
+    std::string_view otherCreated = {};
 
-    constexpr KeyPath under(Root otherRoot) const { return {otherRoot, path, created}; }
+    constexpr KeyPath under(Root otherRoot) const {
+        KeyPath key = *this;
+        key.root = otherRoot;
+        return key;
+    }
     // The same key, with all of its missing levels made when a page is applied.
-    constexpr KeyPath madeWhole() const { return {root, {}, path}; }
+    constexpr KeyPath madeWhole() const {
+        KeyPath key = *this;
+        key.path = {};
+        key.created = path;
+        return key;
+    }
+    // The key of the running Windows.
+    constexpr KeyPath on(const COsVersion& version) const {
+        return otherOn.contains(version) ? KeyPath{root, otherPath, otherCreated} : KeyPath{root, path, created};
+    }
     std::string fullPath() const;
 };
 
@@ -60,7 +78,6 @@ OpenedKey openKey(Registry& registry, Root root, std::string_view path);
 OpenedKey openOrCreate(Registry& registry, const KeyPath& key);
 
 std::optional<StoredValue> readValue(Registry& registry, const RegistryHandle& key, std::string_view name);
-std::optional<StoredValue> readValue(Registry& registry, const KeyPath& key, std::string_view name);
 
 void writeNumber(Registry& registry, const OpenedKey& key, std::string_view name, std::uint32_t number);
 void writeBinary(Registry& registry, const OpenedKey& key, std::string_view name, std::span<const std::byte> data);

@@ -1,0 +1,111 @@
+// Edit boxes: the show and the apply of each kind side by side.
+#include "pages/PageContext.h"
+
+namespace korvane {
+namespace {
+
+void show(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&) {}
+
+// ---- StringValue
+
+struct Fold {
+    std::string_view variable;
+    std::string folder;
+};
+
+Fold foldOf(PageContext& context, Folding folding) {
+    switch (folding) {
+        case Folding::None: break;
+        case Folding::WindowsFolder: return {"%SystemRoot%", context.platform.folders.windowsFolder()};
+        case Folding::ProfilePrefix: return {"%USERPROFILE%", profilePrefix(context)};
+    }
+    return {};
+}
+
+void show(PageContext& context, int edit, const StringValue& binding) {
+    const auto value = context.read(binding.key, binding.name);
+    if (!value) {
+        return;
+    }
+    std::string text = value->text();
+    if (!binding.suffixStart.empty()) {
+        text = text.substr(0, text.find(binding.suffixStart));
+    }
+    const Fold fold = foldOf(context, binding.folding);
+    if (!fold.folder.empty()) {
+        replaceAll(text, fold.variable, fold.folder);
+    }
+    context.page.setText(edit, text);
+}
+
+void write(PageContext& context, const StringValue& binding, const KeyPath& path, const std::string& text) {
+    if (text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
+        context.remove(path, binding.name);
+    } else if (const OpenedKey key = context.openForWriting(path)) {
+        writeText(context.platform.registry, key, binding.name, text, binding.type);
+    }
+}
+
+void apply(PageContext& context, int edit, const StringValue& binding) {
+    std::string text = context.page.text(edit);
+    if (binding.withoutQuotes) {
+        replaceAll(text, "\"", "");
+    }
+    if (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing) {
+        return;
+    }
+    const Fold fold = foldOf(context, binding.folding);
+    replaceAll(text, fold.folder, fold.variable);
+    text += binding.suffix;
+    write(context, binding, binding.key, text);
+    if (binding.also) {
+        write(context, binding, *binding.also, text);
+    }
+}
+
+// ---- DwordNumber
+
+void show(PageContext& context, int edit, const DwordNumber& binding) {
+    if (const auto value = context.read(binding.key, binding.name)) {
+        context.page.setText(edit, std::to_string(static_cast<std::int32_t>(value->number())));
+    }
+}
+
+void apply(PageContext& context, int edit, const DwordNumber& binding) {
+    const std::string text = context.page.text(edit);
+    if (text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
+        context.remove(binding.key, binding.name);
+        return;
+    }
+    const int number = decimalNumber(text);
+    const bool tooSmall = binding.minimum && number < *binding.minimum;
+    if (tooSmall || (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing)) {
+        return;
+    }
+    if (const OpenedKey key = context.openForWriting(binding.key)) {
+        writeNumber(context.platform.registry, key, binding.name, static_cast<std::uint32_t>(number));
+    }
+}
+
+}  // namespace
+
+// What stands before "Application Data" in that folder's path, with its separator. Windows 95, 98 and Me have none.
+std::string profilePrefix(const PageContext& context) {
+    if (!kWindowsNT.contains(context.version)) {
+        return {};
+    }
+    const std::string folder = context.platform.folders.applicationDataFolder();
+    const std::size_t end = folder.find("Application Data");
+    return end == std::string::npos ? std::string() : folder.substr(0, end);
+}
+
+void showField(PageContext& context, int edit, const FieldBinding& binding) {
+    std::visit([&](const auto& kind) { show(context, edit, kind); }, binding);
+}
+
+void applyField(PageContext& context, int edit, const FieldBinding& binding) {
+    std::visit([&](const auto& kind) { apply(context, edit, kind); }, binding);
+}
+
+}  // namespace korvane
