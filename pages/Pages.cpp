@@ -75,6 +75,12 @@ bool CCheckComboPage::OnInitDialog() {
     return CPage::OnInitDialog();
 }
 
+void CCheckComboPage::OnClicked(int id) {
+    if (id == IDC_CHECK1) {
+        controls().enableControl(IDC_COMBO1, controls().check(IDC_CHECK1) == 1);
+    }
+}
+
 void CBrowsePage::OnClicked(int id) {
     for (const RowControls& row : layout().rows) {
         if (row.browse == id) {

@@ -93,6 +93,8 @@ public:
 class CCheckComboPage : public CPage {
 public:
     explicit CCheckComboPage(DialogHost& host) : CPage(host, Page::CheckCombo) {}
+    // The box switches the list at once.
+    void OnClicked(int id) override;
 
 protected:
     bool OnInitDialog() override;

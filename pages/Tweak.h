@@ -60,7 +60,7 @@ struct TableColumn {
 // A list of choices, or of mere explanations. Cells stand row by row.
 struct Table {
     std::span<const TableColumn> columns;
-    std::span<const std::string_view> cells;
+    std::span<const std::string_view> cells = {};
     TableBinding binding = Unbound{};
 };
 
@@ -81,6 +81,7 @@ struct Overview {
 enum class Stamp : std::uint8_t {
     BeforeOpening,  // first of all, even if the key then cannot be opened or a required field is empty
     WhenOpen,       // each time a key has been opened, just before its write
+    ByRoutine,      // when the tweak's own apply routine says so
 };
 
 using Routine = void (*)(PageContext&);

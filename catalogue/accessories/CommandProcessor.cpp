@@ -33,12 +33,12 @@ constexpr CheckBox kUncPaths[] = {
 // ---- 5: a row's index is its hexadecimal digit, so the number sets the text colour on black.
 constexpr TableColumn kColourColumns[] = {{"Hexadecimal value", 109}, {"Color", 265}};
 constexpr std::string_view kColourCells[] = {
-    "0", "Black", "1", "Blue",        "2", "Green",      "3", "Aqua",         "4", "Red",          "5", "Purple",
-    "6", "Yellow", "7", "White",      "8", "Gray",       "9", "Light Blue",   "A", "Light Green",  "B", "Light Aqua",
+    "0", "Black",     "1", "Blue",         "2", "Green",        "3", "Aqua",
+    "4", "Red",       "5", "Purple",       "6", "Yellow",       "7", "White",
+    "8", "Gray",      "9", "Light Blue",   "A", "Light Green",  "B", "Light Aqua",
     "C", "Light Red", "D", "Light Purple", "E", "Light Yellow", "F", "Bright White"};
-constexpr Table kColours{.columns = kColourColumns,
-                         .cells = kColourCells,
-                         .binding = DwordRowChoice{kCommandProcessor, "DefaultColor"}};
+constexpr Table kColours{
+    .columns = kColourColumns, .cells = kColourCells, .binding = DwordRowChoice{kCommandProcessor, "DefaultColor"}};
 
 constexpr CheckBox kExtensions[] = {
     {.text = "Disable Command Processor Extensions",
@@ -61,12 +61,12 @@ constexpr NumberEntry kCompletionKeys[] = {{.text = "Disable", .number = 0, .del
                                            {"TAB key", 9},
                                            {"Ctrl-D", 4},
                                            {"Ctrl-F", 6}};
-constexpr auto kCommandCompletion = ScopePairOfChoices(
-    "Command Completion(Current User)", "Command Completion(All Users)",
-    DwordChoice{.key = kCommandProcessor, .name = "CompletionChar", .entries = kCompletionKeys});
-constexpr auto kDirectoryCompletion = ScopePairOfChoices(
-    "Directory Completion(Current User)", "Directory Completion(All Users)",
-    DwordChoice{.key = kCommandProcessor, .name = "PathCompletionChar", .entries = kCompletionKeys});
+constexpr auto kCommandCompletion =
+    ScopePairOfChoices("Command Completion(Current User)", "Command Completion(All Users)",
+                       DwordChoice{.key = kCommandProcessor, .name = "CompletionChar", .entries = kCompletionKeys});
+constexpr auto kDirectoryCompletion =
+    ScopePairOfChoices("Directory Completion(Current User)", "Directory Completion(All Users)",
+                       DwordChoice{.key = kCommandProcessor, .name = "PathCompletionChar", .entries = kCompletionKeys});
 
 constexpr CheckBox kDelayedExpansion[] = {
     {.text = "Enable Delayed Environment Variable Expansion",

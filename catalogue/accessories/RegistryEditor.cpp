@@ -7,10 +7,7 @@ namespace korvane {
 namespace {
 
 constexpr Tweak kTweaks[] = {
-    {.id = 25,
-     .title = "Registry Editor",
-     .description = "Settings to manage the Windows Registry Editor",
-     .image = 4},
+    {.id = 25, .title = "Registry Editor", .description = "Settings to manage the Windows Registry Editor", .image = 4},
     {.id = 26,
      .title = "Avoid Accidental Registry Imports with Regedit",
      .description =

@@ -5,6 +5,29 @@
 namespace korvane {
 namespace {
 
+constexpr KeyPath kScheduler{Root::CurrentUser, "Software\\Policies\\Microsoft\\Windows\\Task Scheduler5.0"};
+
+// The blanks before the brackets differ from row to row: meant so.
+constexpr auto kProperties =
+    ScopePair("Disable Changes to Task Properties(Current User)", "Disable Changes to Task Properties(All Users)",
+              PolicyDwordFlag(kScheduler, "Property Pages"));
+constexpr auto kRunCommand =
+    ScopePair("Disable Changes to Task Run Command(Current User)", "Disable Changes to Task Run Command(All Users)",
+              PolicyDwordFlag(kScheduler, "Allow Browse"));
+constexpr auto kDragAndDrop =
+    ScopePair("Disable Drag and Drop Task Scheduling(Current User)",
+              "Disable Drag and Drop Task Scheduling (All Users)", PolicyDwordFlag(kScheduler, "DragAndDrop"));
+constexpr auto kManualControl =
+    ScopePair("Disable Manual Task Control(Current User)", "Disable Manual Task Control(All Users)",
+              PolicyDwordFlag(kScheduler, "Execution"));
+constexpr auto kAdvanced = ScopePair("Remove Advanced Option from Task Scheduler Wizard(Current User)",
+                                     "Remove Advanced Option from Task Scheduler Wizard(All Users)",
+                                     PolicyDwordFlag(kScheduler, "Disable Advanced"));
+// Creating and deleting are restricted together.
+constexpr auto kCreation =
+    ScopePair("Restrict Task Creation and Deletion (Current User)", "Restrict Task Creation and Deletion (All Users)",
+              DwordFlag{.key = kScheduler.madeWhole(), .name = "Task Creation", .alsoName = "Task Deletion"});
+
 constexpr OverviewRow kTaskSchedulerRows[] = {{32}, {33}, {34}, {35}, {36}, {37}};
 constexpr Overview kTaskSchedulerOverview{.rows = kTaskSchedulerRows};
 
@@ -26,37 +49,67 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Prevents users from viewing and changing the properties of existing scheduled tasks, such as their schedule "
          "or account. Use it where tasks are set up by an administrator and should stay as they are.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kProperties,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
     {.id = 33,
      .title = "Disable Changes to Task Run Command",
      .description =
          "Stops users from changing the program that a scheduled task runs, and limits new tasks to programs on the "
          "Start menu by removing the Browse button. It keeps arbitrary programs from being scheduled.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kRunCommand,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
     {.id = 34,
      .title = "Disable Drags and Drop Task Scheduling",  // spelled so on purpose
      .description =
          "Disables cut, copy, paste and dragging in the Scheduled Tasks folder, so that users cannot add, copy or "
          "remove tasks with the mouse or the clipboard. Other ways to create tasks stay open.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kDragAndDrop,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
     {.id = 35,
      .title = "Disable Manual Task Control",
      .description =
          "Removes the Run and End Task commands, so that users cannot start or stop scheduled tasks by hand. The tasks "
          "still run by their schedules, which suits backups and other jobs that must not be interrupted.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kManualControl,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
     {.id = 36,
      .title = "Remove Advanced Option from Task Scheduler Wizard",
      .description =
          "Hides the option to open the advanced properties on the last page of the Add Scheduled Task wizard. New "
          "tasks then keep simple settings; users can still change them later in the properties of the task.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kAdvanced,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
     {.id = 37,
      .title = "Restrict Task Creation and Deletion",
      .description =
          "Prevents users from creating new scheduled tasks and from deleting existing ones; both restrictions are set "
          "together. Administrators can still add tasks with the AT command.",
-     .treeParent = 30},
+     .treeParent = 30,
+     .page = Page::Checks,
+     .boxes = kCreation,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000MeXp,
+     .stamp = Stamp::WhenOpen},
 };
 
 }  // namespace

@@ -2,9 +2,61 @@
 // writes to its log. Two of them are kept as machine policy and again in the
 // current user's copy of that policy; the group has no place in the tree.
 #include "catalogue/Units.h"
+#include "catalogue/accessories/InstallerLogging.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+constexpr PlainEntry kInstallerModes[] = {{"Enabled"}, {"Admin Only"}, {"Disabled"}};
+constexpr Choice kInstaller[] = {{.label = "Windows Installer:", .binding = ChoiceEntries{kInstallerModes}}};
+constexpr std::string_view kDisable = "DisableMSI";
+
+// Selects nothing unless both places hold the value; then the mirror's number is the entry.
+void showDisableInstaller(PageContext& context) {
+    if (!context.read(kInstallerPolicy, kDisable)) {
+        return;
+    }
+    if (const auto mirrored = context.read(kInstallerMirror, kDisable)) {
+        context.page.selectComboEntry(IDC_COMBO1, static_cast<int>(mirrored->number()));
+    }
+}
+
+// Removes the mirror's keys from the lowest up, each only if it has no subkeys left.
+void pruneMirror(Registry& registry) {
+    std::string path(kInstallerMirror.created);
+    while (!path.empty()) {
+        const std::size_t slash = path.rfind('\\');
+        const bool top = slash == std::string::npos;
+        const std::string child = top ? path : path.substr(slash + 1);
+        path = top ? std::string() : path.substr(0, slash);
+        const KeyPath parent{kInstallerMirror.root, kInstallerMirror.path, path};
+        if (const OpenedKey opened = openKey(registry, parent.root, parent.fullPath())) {
+            ignoreFailure(registry.deleteKey(opened.handle(), child));
+        }
+    }
+}
+
+// "Enabled" is written as 0; only an empty selection removes the policy, and then prunes the mirror.
+void applyDisableInstaller(PageContext& context) {
+    const int entry = context.page.comboSelection(IDC_COMBO1);
+    if (entry == kNoSelection) {
+        context.remove(kInstallerPolicy, kDisable);
+        pruneMirror(context.platform.registry);
+        return;
+    }
+    for (const KeyPath& place : {kInstallerPolicy, kInstallerMirror}) {
+        if (const OpenedKey key = context.openForWriting(place)) {
+            writeNumber(context.platform.registry, key, kDisable, static_cast<std::uint32_t>(entry));
+        }
+    }
+}
+
+constexpr CheckBox kRemoteAdministration[] = {
+    {.text = "Allows Administrators to Install and Configure Software using Windows Installer.",
+     .binding = DwordFlag{.key = kInstallerPolicy, .name = "EnableAdminTSRemote"}},
+};
 
 constexpr OverviewRow kWindowsInstallerRows[] = {{39}, {40}, {41}};
 constexpr Overview kWindowsInstallerOverview{.rows = kWindowsInstallerRows};
@@ -21,19 +73,34 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Controls who can install programs with Windows Installer: Enabled sets no limit, Admin Only allows programs "
          "that an administrator distributes, Disabled stops it. An empty choice removes the policy, so make sure that "
-         "an entry is shown before applying."},
+         "an entry is shown before applying.",
+     .page = Page::CheckCombos,
+     .choices = kInstaller,
+     .note = kRestartOrLogOutNote,
+     .show = showDisableInstaller,
+     .apply = applyDisableInstaller},
     {.id = 40,
      .title = "Remote Administration of Windows Installer",
      .description =
          "Lets administrators install and configure programs with Windows Installer from a Terminal Services session. "
-         "Without it they must sit at the computer itself, so it helps when servers are looked after from a distance."},
+         "Without it they must sit at the computer itself, so it helps when servers are looked after from a distance.",
+     .page = Page::Checks,
+     .boxes = kRemoteAdministration,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000Xp,
+     .putBoxesBack = true},
     {.id = 41,
      .title = "Windows Installer Logging",  // same title as record 287, on purpose
      .description =
          "Makes Windows Installer log each installation in the Temp folder, using every option of the list except + "
          "and !. The log shows why a setup failed. Clearing the box removes the value and, with it, the whole local "
          "copy of the software policies of this computer that is stored for the current user, not only the part for "
-         "the Installer."},
+         "the Installer.",
+     .page = Page::Category,
+     .boxes = kInstallerLoggingBox,
+     .table = &kInstallerLoggingLetters,
+     .show = showInstallerLogging,
+     .apply = applyInstallerLogging},
     {.id = 42,
      .title = "Allow Uninstall of Windows Components",
      .description =

@@ -49,9 +49,8 @@ constexpr Tweak kTweaks[] = {
      .treeParent = 51},
     {.id = 73,
      .title = "Control Whether Windows Performs Smooth Scrolling",
-     .description =
-         "Lets lists and windows glide when they are scrolled instead of jumping. It is stored as the value "
-         "SmoothScroll of the current user's desktop settings; turn it off where scrolling feels slow."},
+     .description = "Lets lists and windows glide when they are scrolled instead of jumping. It is stored as the value "
+                    "SmoothScroll of the current user's desktop settings; turn it off where scrolling feels slow."},
     {.id = 74,
      .title = "DirectDraw and Direct3D Settings",
      .description =

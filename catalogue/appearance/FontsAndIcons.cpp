@@ -1,9 +1,87 @@
 // The Fonts and Icons tweaks: size, colors and titles of desktop icons, icons
 // of the Recycle Bin and of bitmap files, and the smoothing of screen fonts.
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+constexpr KeyPath kDesktop{Root::CurrentUser, "Control Panel\\Desktop"};
+constexpr KeyPath kMetrics{Root::CurrentUser, "Control Panel\\Desktop\\WindowMetrics"};
+
+constexpr CheckBox kBitmapThumbnails[] = {
+    {.text = "Automatically View Thumbnails of Bitmap Files.",
+     .binding = StringFlag{.key = {Root::ClassesRoot, "Paint.Picture\\DefaultIcon"},
+                           .name = "",
+                           .checked = "%1",
+                           .cleared = "shimgvw.dll,1"}},
+};
+
+constexpr KeyPath kRecycleBin{Root::CurrentUser,
+                              "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\CLSID\\"
+                              "{645FF040-5081-101B-9F08-00AA002F954E}\\DefaultIcon"};
+constexpr StringValue recycleBinIcon(std::string_view name) {
+    return {.key = kRecycleBin, .name = name, .whenEmpty = WhenEmpty::WritesEmpty, .folding = Folding::WindowsFolder};
+}
+constexpr Field kRecycleBinIcons[] = {
+    {.label = "Default Icon:", .binding = recycleBinIcon(""), .browse = true},
+    {.label = "Empty Icon:", .binding = recycleBinIcon("Empty"), .browse = true},
+    {.label = "Full Icon:", .binding = recycleBinIcon("Full"), .browse = true},
+};
+
+// An empty size is not written: Windows would read it as no size at all.
+constexpr Field kIconSize[] = {
+    {.label = "Change the Size of Desktop Icons:",
+     .binding = StringValue{.key = kMetrics, .name = "Shell Icon Size", .whenEmpty = WhenEmpty::WritesNothing}}};
+
+constexpr NumberEntry kSmoothingModes[] = {{"Disabled", 0}, {"Standard", 1}, {"ClearType", 2}};
+constexpr Choice kSmoothingMode[] = {{.label = "Font Smoothing Mode:",
+                                      .binding = DwordChoice{.key = kDesktop,
+                                                             .name = "FontSmoothingType",
+                                                             .entries = kSmoothingModes,
+                                                             .initial = 0,
+                                                             .whenNone = WhenNone::WritesNothing}}};
+
+constexpr TextEntry kDepths[] = {
+    {"Low(16 colors)", "4"}, {"Normal(256 colors)", "8"}, {"Medium(64k colors)", "16"}, {"High(16.7M colors)", "24"}};
+// Every other depth shows as the highest, and is then written as that.
+constexpr Choice kHighColour[] = {{.label = "High Color Icons :",
+                                   .binding = StringChoice{.key = kMetrics,
+                                                           .name = "Shell Icon BPP",
+                                                           .entries = kDepths,
+                                                           .initial = 0,
+                                                           .unknown = 3,
+                                                           .whenNone = WhenNone::WritesNothing}}};
+
+constexpr TextEntry kSmoothing[] = {{"Disabled", "0"}, {"On Windows 95/98/Me", "1"}, {"On Windows NT/2000/XP", "2"}};
+constexpr Choice kFontSmoothing[] = {{.label = "Enable Font Smoothing:",
+                                      .binding = StringChoice{.key = kDesktop,
+                                                              .name = "FontSmoothing",
+                                                              .entries = kSmoothing,
+                                                              .initial = 0,
+                                                              .compare = Compare::AsNumber,
+                                                              .whenNone = WhenNone::WritesNothing}}};
+
+// Each entry has a gate of its own: it must fit the running Windows.
+void applyFontSmoothing(PageContext& context) {
+    const int entry = context.page.comboSelection(IDC_COMBO1);
+    const int kOn9x = 1;
+    const int kOnNt = 2;
+    if (entry == kOn9x && !kWindows9x.contains(context.version)) {
+        context.host.alert(2013);
+    } else if (entry == kOnNt && !kWindowsNT.contains(context.version)) {
+        context.host.alert(2014);
+    } else {
+        context.host.stamp();
+        applyChoice(context, IDC_COMBO1, kFontSmoothing[0].binding);
+    }
+}
+
+constexpr CheckBox kWrapTitles[] = {
+    {.text = "The Icon Titles should be Word Wrapped over Multiple Lines.",
+     .binding = StringFlag{.key = kMetrics, .name = "IconTitleWrap"}},
+};
 
 constexpr OverviewRow kFontsAndIconsRows[] = {{61}, {62}, {63}, {65}, {66}};
 constexpr Overview kFontsAndIconsOverview{.rows = kFontsAndIconsRows};
@@ -22,42 +100,66 @@ constexpr Tweak kTweaks[] = {
          "Shows every bitmap file (.bmp) with a small picture of its own contents instead of the common icon, for all "
          "users. Folders with many large bitmaps then open more slowly; clearing the box sets the standard picture "
          "icon.",
-     .treeParent = 60},
+     .treeParent = 60,
+     .page = Page::Checks,
+     .boxes = kBitmapThumbnails,
+     .note = "Note:\n\tRestart Windows for the change to take effect."},
     {.id = 62,
      .title = "Change the Recycle Bin Icons",
      .description =
          "Replaces the icons of the Recycle Bin for the current user: the one shown by default, the one for an empty "
          "and the one for a full bin. Name icon files, or a program or library followed by a comma and the number of "
          "the icon.",
-     .treeParent = 60},
+     .treeParent = 60,
+     .page = Page::CheckFields,
+     .fields = kRecycleBinIcons,
+     .note = kRestartOrLogOutNote},
     {.id = 63,
      .title = "Change the Size of Desktop Icons",
      .description =
          "Sets the size of the icons on the desktop and in the large-icon view of folders, in pixels. The standard is "
          "32; 48 is easier to see on a high resolution, a smaller number makes room for more icons.",
-     .treeParent = 60},
+     .treeParent = 60,
+     .page = Page::CheckFields,
+     .fields = kIconSize,
+     .note = kRestartOrLogOutNote},
     {.id = 64,
      .title = "Control the Font Smoothing Mode",
      .description =
          "Chooses the method by which the edges of screen fonts are smoothed while font smoothing is on. ClearType "
-         "makes text clearer on flat panels and notebooks; Standard suits picture tubes."},
+         "makes text clearer on flat panels and notebooks; Standard suits picture tubes.",
+     .page = Page::CheckCombos,
+     .choices = kSmoothingMode,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateXp},
     {.id = 65,
      .title = "Display High Color Icons",
      .description =
          "Sets the number of colors in which Windows draws the icons of the desktop for the current user. More colors "
          "let modern icons look as they were drawn; fewer save memory on old graphics cards.",
-     .treeParent = 60},
+     .treeParent = 60,
+     .page = Page::CheckCombos,
+     .choices = kHighColour,
+     .note = kRestartOrLogOutNote},
     {.id = 66,
      .title = "Enable Font Smoothing",
      .description =
          "Smooths the jagged edges of large text on the screen for the current user. Choose the entry that names the "
          "Windows in use, since the other one is refused, or Disabled for text with sharp edges.",
-     .treeParent = 60},
+     .treeParent = 60,
+     .page = Page::CheckCombos,
+     .choices = kFontSmoothing,
+     .note = kRestartOrLogOutNote,
+     .stamp = Stamp::ByRoutine,
+     .apply = applyFontSmoothing},
     {.id = 67,
      .title = "Wrap Icon Titles",
      .description =
          "Lets the titles below desktop icons run over several lines, so that long names can be read in full. With the "
-         "box cleared each title keeps to one line and the icons look tidier."},
+         "box cleared each title keeps to one line and the icons look tidier.",
+     .page = Page::Checks,
+     .boxes = kWrapTitles,
+     .note = kRestartOrLogOutNote},
 };
 
 }  // namespace

@@ -2,9 +2,159 @@
 // folders, what folder windows show or hide, and how they open.
 // The search tweaks stand in a unit of their own.
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+// The notes differ in small ways: meant so.
+constexpr std::string_view kNoteWithoutStop =
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";
+constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect.";
+constexpr std::string_view kRestartNoteWithBlank = "Note:\n\tRestart Windows for the change to take effect. ";
+constexpr std::string_view kRestartOrLogOutNoteWithBlank =
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect. ";
+constexpr std::string_view kRefreshNote = "Note:\n\tReturn to the desktop and press F5 for the change to take effect. ";
+
+constexpr KeyPath kAdvanced{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"};
+constexpr KeyPath kPolicies{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
+
+// ---- 103: the shell's own handlers, each a subkey that names its class.
+constexpr KeyPath kHandlers{Root::ClassesRoot, {}, "AllFilesystemObjects\\shellex\\ContextMenuHandlers"};
+constexpr SubkeyFlag handler(std::string_view name, std::string_view classId) {
+    return {.parent = kHandlers, .name = name, .text = classId, .shownByText = true, .compare = Compare::IgnoreCase};
+}
+constexpr CheckBox kCopyAndMove[] = {
+    {.text = "Add 'Copy To Folder' to Folder menu option:",
+     .binding = handler("Copy To", "{C2FBB630-2971-11d1-A18C-00C04FD75D13}")},
+    {.text = "Add 'Move To Folder' to Folder menu option:",
+     .binding = handler("Move To", "{C2FBB631-2971-11d1-A18C-00C04FD75D13}")},
+};
+
+// ---- 104: made under folders alone, shown and cleared under directories too: meant so.
+constexpr CheckBox kExploreHere[] = {
+    {.text = "Add Explore From Here to Every Folder Menu.",
+     .binding = ShellVerbKey{.parent = {Root::ClassesRoot, "Folder\\shell"},
+                             .verb = "explore",
+                             .menuText = "E&xplore from here",
+                             .commandLine = "explorer.exe /e,/root,/idlist,%i",
+                             .twin = KeyPath{Root::ClassesRoot, "Directory\\shell"}}},
+};
+
+constexpr CheckBox kExpandFolders[] = {{.text = "Automatically Expand Folders in Explorer .",
+                                        .binding = DwordCheckState{.key = kAdvanced, .name = "FriendlyTree"}}};
+
+constexpr KeyPath kCurrentVersion{Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion"};
+constexpr Field kProgramFolders[] = {
+    {.label = "Program Directory:",
+     .binding = StringValue{.key = kCurrentVersion, .name = "ProgramFilesDir", .whenEmpty = WhenEmpty::WritesNothing},
+     .browse = true},
+    {.label = "Common Files Directory:",
+     .binding = StringValue{.key = kCurrentVersion, .name = "CommonFilesDir", .whenEmpty = WhenEmpty::WritesNothing},
+     .browse = true},
+};
+
+constexpr TextEntry kCompletionModes[] = {{"Append Text", "Yes"}, {"Show Drop-down List", "No"}};
+constexpr KeyPath kAutoCompleteKey{
+    Root::CurrentUser, {}, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete"};
+constexpr Choice kAutoComplete[] = {{.label = "Auto-Complete Mode:",
+                                     .binding = StringChoice{.key = kAutoCompleteKey,
+                                                             .name = "Append Completion",
+                                                             .entries = kCompletionModes,
+                                                             .initial = 1,
+                                                             .unknown = 1,
+                                                             .compare = Compare::Contains,
+                                                             .noneText = "No"}}};
+
+constexpr CheckBox kThumbnailCache[] = {
+    {.text = "Disable the Thumbnail Cache .",
+     .binding = DwordCheckState{.key = kAdvanced, .name = "DisableThumbnailCache"}}};
+constexpr CheckBox kSeparateProcess[] = {{.text = "Launch Folder Windows in a Separate Process .",
+                                          .binding = DwordCheckState{.key = kAdvanced, .name = "SeparateProcess"}}};
+constexpr auto kSharedDocuments = ScopePair("Remove Shared Documents from My Computer(Current User) .",
+                                            "Remove Shared Documents from My Computer(All Users) .",
+                                            DwordCheckState{.key = kPolicies, .name = "NoSharedDocuments"});
+
+constexpr NumberEntry kRestoreModes[] = {{"do not re-open", 0}, {"re-open windows", 1}};
+constexpr Choice kRestoreWindows[] = {
+    {.label = "Folder Windows at Startup Mode:",
+     .binding = DwordChoice{.key = kAdvanced, .name = "PersistBrowsers", .entries = kRestoreModes, .initial = 0}}};
+
+// Cleared leaves the key, with an empty default value.
+constexpr CheckBox kSendTo[] = {
+    {.text = "Enable \"Send to\" Context Menu .",
+     .binding =
+         StringFlag{.key = {Root::ClassesRoot, {}, "AllFilesystemObjects\\shellex\\ContextMenuHandlers\\Send To"},
+                    .name = "",
+                    .checked = "{7BA4C740-9E81-11CF-99D3-00AA004AE837}",
+                    .cleared = ""}},
+};
+
+constexpr CheckBox kAttributesColumn[] = {{.text = "Show Attributes Column in Explorer .",
+                                           .binding = DwordCheckState{.key = kAdvanced, .name = "ShowAttribCol"}}};
+constexpr CheckBox kEncryptionMenu[] = {
+    {.text = "Show Encryption Commands on the Shortcut Menu .",
+     .binding = DwordCheckState{.key = kAdvanced.under(Root::LocalMachine), .name = "EncryptionContextMenu"}},
+};
+// Cleared writes 0, not 2: meant so.
+constexpr CheckBox kHiddenFiles[] = {
+    {.text = "Show Hidden Folders and Files.", .binding = DwordFlag{.key = kAdvanced, .name = "Hidden"}},
+};
+constexpr CheckBox kSuperHidden[] = {{.text = "Show Hidden Operating System Files.",
+                                      .binding = DwordCheckState{.key = kAdvanced, .name = "ShowSuperHidden"}}};
+
+constexpr CheckBox kOpenWithBox[] = {
+    {.text = "Show \"Open With\" Program Checkbox .",
+     .binding = StringFlag{.key = {Root::ClassesRoot, {}, "Unknown\\shell\\openas\\command"},
+                           .name = "",
+                           .checked = "rundll32.exe shell32.dll,OpenAs_RunDLL %1",
+                           .cleared = "rundll32.exe shell32.dll,OpenAs_RunDLL %1 %2"}},
+};
+
+// ---- 119: the n-th application that can be run is the n-th row, when shown and when applied.
+constexpr TableColumn kApplicationColumns[] = {{"Program", 372}};
+constexpr Table kApplications{.columns = kApplicationColumns};
+constexpr std::string_view kNoOpenWith = "NoOpenWith";
+
+// Calls visit(application's key, name, row) for every application that has a "shell" subkey.
+template <typename Visit>
+void forEachApplication(PageContext& context, Visit visit) {
+    Registry& registry = context.platform.registry;
+    const OpenedKey applications = openKey(registry, Root::ClassesRoot, "Applications");
+    if (!applications) {
+        return;
+    }
+    int row = 0;
+    std::string name;
+    for (std::uint32_t i = 0; registry.enumerateKey(applications.handle(), i, name) == Status::Success; ++i) {
+        RegistryHandle application;
+        RegistryHandle shell;
+        if (registry.openKey(applications.handle(), name, application) == Status::Success &&
+            registry.openKey(application, "shell", shell) == Status::Success) {
+            visit(application, name, row++);
+        }
+    }
+}
+
+void showOpenWithPrograms(PageContext& context) {
+    forEachApplication(context, [&](const RegistryHandle& application, const std::string& name, int row) {
+        context.page.insertRow(IDC_CHECK_LIST, row, name);
+        const bool hidden = readValue(context.platform.registry, application, kNoOpenWith).has_value();
+        context.page.setRowCheck(IDC_CHECK_LIST, row, !hidden);
+    });
+}
+
+void applyOpenWithPrograms(PageContext& context) {
+    Registry& registry = context.platform.registry;
+    forEachApplication(context, [&](const RegistryHandle& application, const std::string&, int row) {
+        if (context.page.rowCheck(IDC_CHECK_LIST, row)) {
+            ignoreFailure(registry.deleteValue(application, {}, kNoOpenWith));
+        } else {
+            ignoreFailure(registry.setValue(application, kNoOpenWith, ValueType::Sz, {}));
+        }
+    });
+}
 
 constexpr OverviewRow kExplorerRows[] = {
     {103}, {104}, {105}, {107}, {108}, {109}, {110}, {111}, {112}, {113}, {116}, {117}, {118}, {119},
@@ -25,20 +175,28 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Adds the commands Copy To Folder and Move To Folder to the right-click menu of files and folders, for all "
          "users. They ask for the target in a box, which is easier than dragging between two windows.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kCopyAndMove},
     {.id = 104,
      .title = "Add Explorer From Here to Every Folder",
      .description =
          "Adds Explore from here to the menu of folders, which opens a window with that folder at the top of the tree, "
          "for all users. Clearing the box removes the Explore command of folders and directories altogether, the "
          "standard one included.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kExploreHere,
+     .note = kNoteWithoutStop},
     {.id = 105,
      .title = "Automatically Expand Folders in Explorer",
      .description =
          "Lets the folder tree of Explorer open a folder as soon as it is selected and close the others again, for the "
          "current user. Turn it off if you prefer to open and close branches of the tree yourself.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kExpandFolders,
+     .note = kNoteWithoutStop},
     {.id = 106,
      .title = "Change Drive Name and Icon",
      .description =
@@ -50,78 +208,125 @@ constexpr Tweak kTweaks[] = {
          "Sets the folders that setup programs propose for new programs and for the files these share, for example on "
          "a larger drive. Installed programs are not moved and some may miss their files, so change it with care; an "
          "empty field changes nothing.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::CheckFields,
+     .fields = kProgramFolders,
+     .note = kRestartNote},
     {.id = 108,
      .title = "Change the Auto Complete Mode",
      .description =
          "Chooses how Explorer completes paths and addresses that the current user types: with Append Text the rest is "
          "written into the line at once, with the drop-down list the matches are only offered below it.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::CheckCombos,
+     .choices = kAutoComplete,
+     .note = kRestartNote},
     {.id = 109,
      .title = "Disable the Thumbnail Cache",
      .description =
          "Stops Explorer from saving the thumbnails of pictures in a hidden file in each folder, for the current user. "
          "It saves disk space and leaves no traces, but thumbnails must be made anew each time a folder opens.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kThumbnailCache,
+     .note = kRestartNote,
+     .gate = kGateXp,
+     .putBoxesBack = true},
     {.id = 110,
      .title = "Launch Folder Windows in a Separate process",  // spelled so on purpose
      .description =
          "Opens each folder window of the current user in a process of its own. If one of them crashes, the others and "
          "the desktop go on working; every window takes some more memory and time to open.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kSeparateProcess,
+     .note = kRestartNote},
     {.id = 111,
      .title = "Remove Shared Documents from My Computer",
      .description =
          "Removes the shared documents folders from My Computer, for the current user or for all users. Use it where "
          "files are exchanged in another way or not at all; the folders themselves are not deleted.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kSharedDocuments,
+     .note = kRestartNote,
+     .gate = kGateXp},
     {.id = 112,
      .title = "Restore Folder Windows at Startup",
      .description =
          "Lets Windows open the folder windows again that were open when the current user logged off, so that work can "
          "go on at the same place. Leave it off for a clean desktop after each login.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::CheckCombos,
+     .choices = kRestoreWindows,
+     .note = kRestartNote,
+     .gate = kGateXp},
     {.id = 113,
      .title = "Show'Send to'Context Menu",  // spelled so on purpose
      .description =
          "Shows or removes the Send To menu, which copies files to a disk, a mail message or another target, for all "
          "users. Its entries are kept when it is removed, and return with it.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kSendTo,
+     .note = kRestartOrLogOutNote},
     {.id = 114,
      .title = "Show Attributes Column in Explorer",
      .description =
          "Adds a column with the attributes of each file, such as read-only or hidden, to the detail view of Explorer "
-         "for the current user. Windows 98 only."},
+         "for the current user. Windows 98 only.",
+     .page = Page::Checks,
+     .boxes = kAttributesColumn,
+     .note = kRestartNoteWithBlank,
+     .gate = kGate98},
     {.id = 115,
      .title = "Show Encryption Commands on the Shortcut Menu",
      .description =
          "Adds Encrypt and Decrypt to the right-click menu of files and folders on NTFS drives, for all users. It "
-         "saves the way through the properties for those who encrypt files often."},
+         "saves the way through the properties for those who encrypt files often.",
+     .page = Page::Checks,
+     .boxes = kEncryptionMenu,
+     .note = kRestartOrLogOutNoteWithBlank,
+     .gate = kGate2000Xp,
+     .putBoxesBack = true},
     {.id = 116,
      .title = "Show Hidden Folders and Files",
      .description =
          "Shows files and folders that have the hidden attribute in Explorer for the current user. It is needed to "
          "find settings and data that Windows and programs keep out of sight.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kHiddenFiles,
+     .note = kRestartOrLogOutNoteWithBlank},
     {.id = 117,
      .title = "Show Hidden Operating System Files",
      .description =
          "Shows the protected files of the operating system in Explorer for the current user, if hidden files are "
          "shown as well. Check it only while you need such a file, since deleting one can keep Windows from starting.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kSuperHidden,
+     .note = kRestartOrLogOutNoteWithBlank},
     {.id = 118,
      .title = "Show or Hide'Open With'Program Checkbox",  // spelled so on purpose
      .description =
          "Shows the check box in the Open With window that makes the selected program the standard one for files of "
          "that type. Hide it so that a file type is not assigned to a wrong program by accident; it holds for all "
          "users.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::Checks,
+     .boxes = kOpenWithBox,
+     .note = kRefreshNote},
     {.id = 119,
      .title = "Show Programs in the Open with Selection Box",
      .description =
          "Chooses which of the registered programs the Open With window offers, for all users. Clear the programs that "
          "you never open files with to get a short list; they stay installed and lose nothing else.",
-     .treeParent = 95},
+     .treeParent = 95,
+     .page = Page::CheckList,
+     .table = &kApplications,
+     .show = showOpenWithPrograms,
+     .apply = applyOpenWithPrograms},
     {.id = 120,
      .title = "Specify Unknown File Type Options",
      .description =
