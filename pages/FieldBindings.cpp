@@ -57,7 +57,9 @@ void apply(PageContext& context, int edit, const StringValue& binding) {
     }
     const Fold fold = foldOf(context, binding.folding);
     replaceAll(text, fold.folder, fold.variable);
-    text += binding.suffix;
+    if (!text.empty() || binding.whenEmpty != WhenEmpty::Deletes) {
+        text += binding.suffix;
+    }
     write(context, binding, binding.key, text);
     if (binding.also) {
         write(context, binding, *binding.also, text);

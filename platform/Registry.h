@@ -87,7 +87,8 @@ public:
     virtual Status deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) = 0;
     // RegDeleteKeyA of Windows NT: refuses (AccessDenied) a key that has subkeys.
     virtual Status deleteKey(const RegistryHandle& parent, std::string_view path) = 0;
-    // SHDeleteKeyA: the key with all below it.
+    // SHDeleteKeyA: the key with all below it. An empty path, which would name the handle's own key, is refused
+    // (InvalidParameter): on a root it would delete everything.
     virtual Status deleteTree(const RegistryHandle& parent, std::string_view path) = 0;
     // RegEnumKeyA with a buffer of 260 bytes. NoMoreItems behind the last.
     virtual Status enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) = 0;

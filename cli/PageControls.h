@@ -1,0 +1,16 @@
+// Sets the controls of a page as a person at the window would.
+#pragma once
+
+#include "cli/CommandLine.h"
+#include "cli/HostText.h"
+#include "platform/memory/MemoryDialog.h"
+
+#include <optional>
+#include <string>
+
+namespace korvane {
+
+// Why the control cannot be set so, or nothing when it is.
+std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, ProgramText encoding);
+
+}  // namespace korvane

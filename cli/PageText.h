@@ -1,0 +1,13 @@
+// A page as lines of text, for people.
+#pragma once
+
+#include "cli/Session.h"
+
+#include <string>
+
+namespace korvane {
+
+// In the encoding of the program's texts.
+std::string pageText(const PageView& view);
+
+}  // namespace korvane

@@ -1,0 +1,70 @@
+// The files of the program's folder: its language files, and the date file,
+// whose changes wait until the whole run has succeeded.
+#pragma once
+
+#include "platform/System.h"
+#include "platform/memory/IniFile.h"
+#include "platform/memory/MemorySystem.h"
+#include "platform/memory/StdioFiles.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+// Finds the program's paths, which are written with backslashes, on this system. On Windows they are left as they are;
+// elsewhere names are found without regard to case, as Windows finds them.
+class ProgramFolder {
+public:
+    // Without a folder no path leads anywhere.
+    ProgramFolder() = default;
+    explicit ProgramFolder(std::string folder) : folder_(std::move(folder)) {}
+
+    bool given() const { return !folder_.empty(); }
+    bool exists() const;
+    // What the program takes for the path of its executable.
+    std::string executable() const { return given() ? folder_ + "\\KorvaneManager.exe" : std::string(); }
+    // The host's path for one of the program's, which begins with the folder.
+    std::string hostPath(const std::string& path) const;
+
+private:
+    std::string folder_;
+};
+
+class FolderProfile final : public ProfileStrings {
+public:
+    explicit FolderProfile(const ProgramFolder& folder) : folder_(folder) {}
+
+    std::string getString(std::string_view section, std::string_view key, std::string_view defaultValue,
+                          std::size_t size, const std::string& file) override;
+
+private:
+    const ProgramFolder& folder_;
+    std::map<std::string, std::string> hostPaths_;  // by the program's path
+    IniFile ini_;
+};
+
+// Reads the files of the folder and keeps what is written to them until it is told to write it.
+class PendingFiles final : public Files {
+public:
+    explicit PendingFiles(const ProgramFolder& folder) : folder_(folder) {}
+
+    std::unique_ptr<File> openExisting(const std::string& path) override;
+    std::unique_ptr<File> createAlways(const std::string& path) override;
+
+    // False when a file could not be written; the others are written all the same.
+    bool writeChanges();
+
+private:
+    const ProgramFolder& folder_;
+    StdioFiles disk_;
+    MemoryFiles pending_;
+    // What each file in use holds on the disk; nothing for one that is made anew.
+    std::map<std::string, std::optional<std::string>> onDisk_;
+};
+
+}  // namespace korvane

@@ -1,0 +1,2 @@
+korvane("One",1/2/2001)
+korvane("Two",1/2/2001)

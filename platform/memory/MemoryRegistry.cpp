@@ -1,0 +1,250 @@
+// The registry's verbs over the tree in memory, with the answers Windows NT gives.
+#include "platform/memory/MemoryRegistry.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "platform/memory/Codepage.h"
+
+namespace korvane {
+namespace {
+
+constexpr Status kBadPathname{161};
+
+// A text as the platform's call would see it: up to the first zero.
+std::u16string widen(std::string_view text) { return fromAnsi(text.substr(0, text.find('\0'))); }
+
+std::vector<std::byte> textToData(std::span<const std::byte> ansi) {
+    std::string text(ansi.size(), '\0');
+    std::transform(ansi.begin(), ansi.end(), text.begin(), [](std::byte b) { return static_cast<char>(b); });
+    if (!text.empty() && text.back() != '\0') {
+        text += '\0';
+    }
+    return toStored(fromAnsi(text));
+}
+
+// The data as the 8-bit verbs give it: text in Windows-1252, all else unchanged.
+std::vector<std::byte> dataAsAnsi(const RegistryValue& value) {
+    if (!holdsText(value.type)) {
+        return value.data;
+    }
+    const std::string text = toAnsi(fromStored(value.data));
+    const std::span<const std::byte> bytes = std::as_bytes(std::span(text));
+    return {bytes.begin(), bytes.end()};
+}
+
+std::u16string upperPathOf(const RegistryKey& key) {
+    const std::u16string name = upperCase(key.name());
+    return key.parent() == nullptr ? name : upperPathOf(*key.parent()) + u'\\' + name;
+}
+
+std::u16string joinUpper(std::u16string base, std::u16string_view path) {
+    return path.empty() ? std::move(base) : std::move(base) + u'\\' + upperCase(path);
+}
+
+}  // namespace
+
+Status MemoryRegistry::connect(Root root, RegistryHandle& handle) {
+    const std::shared_ptr<RegistryKey>& key = tree_.root(root);
+    if (isDenied(upperPathOf(*key))) {
+        return Status::AccessDenied;
+    }
+    handle = makeHandle(key);
+    return Status::Success;
+}
+
+Status MemoryRegistry::openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = findKey(parent, widen(path), found); status != Status::Success) {
+        return status;
+    }
+    key = makeHandle(std::move(found));
+    return Status::Success;
+}
+
+Status MemoryRegistry::createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
+    const std::u16string widePath = widen(path);
+    std::shared_ptr<RegistryKey> start;
+    if (const Status status = startOf(parent, widePath, start); status != Status::Success) {
+        return status;
+    }
+    key = makeHandle(RegistryTree::create(std::move(start), widePath));
+    return Status::Success;
+}
+
+Status MemoryRegistry::queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer,
+                                  std::size_t& size, ValueType* type) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = keyOf(key, found); status != Status::Success) {
+        return status;
+    }
+    const RegistryValue* value = found->findValue(widen(name));
+    if (value == nullptr) {
+        return Status::FileNotFound;
+    }
+    const std::vector<std::byte> bytes = dataAsAnsi(*value);
+    size = bytes.size();
+    if (bytes.size() > buffer.size()) {
+        return Status::MoreData;
+    }
+    std::copy(bytes.begin(), bytes.end(), buffer.begin());
+    if (holdsText(value->type) && !bytes.empty() && bytes.back() != std::byte{0} && bytes.size() < buffer.size()) {
+        buffer[bytes.size()] = std::byte{0};  // a courtesy of Windows, which the size does not count
+    }
+    if (type != nullptr) {
+        *type = static_cast<ValueType>(value->type);
+    }
+    return Status::Success;
+}
+
+Status MemoryRegistry::setValue(const RegistryHandle& key, std::string_view name, ValueType type,
+                                std::span<const std::byte> data) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = keyOf(key, found); status != Status::Success) {
+        return status;
+    }
+    const std::u16string wideName = widen(name);
+    if (wideName.size() > kMaxValueName) {
+        return Status::InvalidParameter;
+    }
+    const auto number = static_cast<std::uint32_t>(type);
+    found->setValue(wideName, number,
+                    holdsText(number) ? textToData(data) : std::vector<std::byte>(data.begin(), data.end()));
+    return Status::Success;
+}
+
+Status MemoryRegistry::deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) {
+    std::shared_ptr<RegistryKey> found;
+    const std::u16string path = widen(subkey);
+    const Status status = path.empty() ? keyOf(key, found) : findKey(key, path, found);
+    if (status != Status::Success) {
+        return status;
+    }
+    return found->removeValue(widen(name)) ? Status::Success : Status::FileNotFound;
+}
+
+Status MemoryRegistry::deleteKey(const RegistryHandle& parent, std::string_view path) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = findKey(parent, widen(path), found); status != Status::Success) {
+        return status;
+    }
+    if (found->parent() == nullptr || !found->subkeys().empty()) {
+        return Status::AccessDenied;
+    }
+    found->parent()->removeSubkey(found->name());
+    return Status::Success;
+}
+
+Status MemoryRegistry::deleteTree(const RegistryHandle& parent, std::string_view path) {
+    const std::u16string widePath = widen(path);
+    if (widePath.empty()) {
+        return Status::InvalidParameter;
+    }
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = findKey(parent, widePath, found); status != Status::Success) {
+        return status;
+    }
+    if (holdsDenied(upperPathOf(*found))) {
+        return Status::AccessDenied;
+    }
+    found->parent()->removeSubkey(found->name());
+    return Status::Success;
+}
+
+Status MemoryRegistry::enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = keyOf(key, found); status != Status::Success) {
+        return status;
+    }
+    if (index >= found->subkeys().size()) {
+        return Status::NoMoreItems;
+    }
+    name = toAnsi(std::next(found->subkeys().begin(), index)->second->name());
+    return Status::Success;
+}
+
+Status MemoryRegistry::enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) {
+    std::shared_ptr<RegistryKey> found;
+    if (const Status status = keyOf(key, found); status != Status::Success) {
+        return status;
+    }
+    if (index >= found->values().size()) {
+        return Status::NoMoreItems;
+    }
+    name = toAnsi(std::next(found->values().begin(), index)->name);
+    return Status::Success;
+}
+
+void MemoryRegistry::deny(Root root, std::string_view path) {
+    denied_.insert(joinUpper(upperPathOf(*tree_.root(root)), widen(path)));
+}
+
+void MemoryRegistry::closeKey(std::uintptr_t handle) noexcept { handles_.erase(handle); }
+
+Status MemoryRegistry::keyOf(const RegistryHandle& handle, std::shared_ptr<RegistryKey>& key) const {
+    const auto found = handles_.find(handle.value());
+    if (found == handles_.end()) {
+        return Status::InvalidHandle;
+    }
+    if (found->second->deleted()) {
+        return Status::KeyDeleted;
+    }
+    key = found->second;
+    return Status::Success;
+}
+
+Status MemoryRegistry::startOf(const RegistryHandle& handle, std::u16string_view path,
+                               std::shared_ptr<RegistryKey>& start) const {
+    if (const Status status = keyOf(handle, start); status != Status::Success) {
+        return status;
+    }
+    switch (RegistryTree::checkPath(start->depth(), path)) {
+        case PathFault::None:
+            break;
+        case PathFault::EmptyName:
+            return kBadPathname;
+        case PathFault::NameTooLong:
+        case PathFault::TooDeep:
+            return Status::InvalidParameter;
+    }
+    return isDenied(joinUpper(upperPathOf(*start), path)) ? Status::AccessDenied : Status::Success;
+}
+
+Status MemoryRegistry::findKey(const RegistryHandle& handle, std::u16string_view path,
+                               std::shared_ptr<RegistryKey>& key) const {
+    std::shared_ptr<RegistryKey> start;
+    if (const Status status = startOf(handle, path, start); status != Status::Success) {
+        return status;
+    }
+    key = RegistryTree::find(std::move(start), path);
+    return key == nullptr ? Status::FileNotFound : Status::Success;
+}
+
+RegistryHandle MemoryRegistry::makeHandle(std::shared_ptr<RegistryKey> key) {
+    handles_.emplace(++lastHandle_, std::move(key));
+    return {*this, lastHandle_};
+}
+
+bool MemoryRegistry::isDenied(const std::u16string& path) const {
+    if (denied_.empty()) {
+        return false;
+    }
+    for (std::size_t end = path.find(u'\\');; end = path.find(u'\\', end + 1)) {
+        if (denied_.contains(std::u16string_view(path).substr(0, end))) {
+            return true;
+        }
+        if (end == std::u16string::npos) {
+            return false;
+        }
+    }
+}
+
+bool MemoryRegistry::holdsDenied(const std::u16string& path) const {
+    const std::u16string below = path + u'\\';
+    const auto next = denied_.lower_bound(below);
+    return next != denied_.end() && next->starts_with(below);
+}
+
+}  // namespace korvane

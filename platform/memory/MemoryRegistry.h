@@ -1,0 +1,71 @@
+// A registry in memory that answers as Windows NT's does: what kmctl works on when it repairs a .reg file, and what
+// the tests run on. Loading and saving .reg text is in RegFile.h.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/Registry.h"
+#include "platform/memory/RegistryTree.h"
+
+namespace korvane {
+
+// Must outlive the handles it gave out. Texts cross the 8-bit verbs in Windows-1252; a character that has no place
+// there reads as '?'. The four roots are separate trees: no root mirrors a part of another.
+class MemoryRegistry final : public Registry {
+public:
+    MemoryRegistry() = default;
+    MemoryRegistry(const MemoryRegistry&) = delete;
+    MemoryRegistry& operator=(const MemoryRegistry&) = delete;
+
+    Status connect(Root root, RegistryHandle& handle) override;
+    Status openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) override;
+    Status createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) override;
+    Status queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer, std::size_t& size,
+                      ValueType* type = nullptr) override;
+    Status setValue(const RegistryHandle& key, std::string_view name, ValueType type,
+                    std::span<const std::byte> data) override;
+    Status deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) override;
+    Status deleteKey(const RegistryHandle& parent, std::string_view path) override;
+    Status deleteTree(const RegistryHandle& parent, std::string_view path) override;
+    Status enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) override;
+    Status enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) override;
+
+    // From now on opening, creating and deleting the key, or anything below it, answers AccessDenied; with an empty
+    // path so does connecting to the root. The key need not exist. Handles that are open already keep working.
+    void deny(Root root, std::string_view path);
+    // Takes back every deny.
+    void allowAll() { denied_.clear(); }
+
+    // How many handles are open: 0 when all that was opened has been closed.
+    std::size_t openHandles() const { return handles_.size(); }
+
+    RegistryTree& tree() { return tree_; }
+    const RegistryTree& tree() const { return tree_; }
+
+private:
+    void closeKey(std::uintptr_t handle) noexcept override;
+
+    // The key behind a handle, or why there is none.
+    Status keyOf(const RegistryHandle& handle, std::shared_ptr<RegistryKey>& key) const;
+    // The checks that stand before every walk from a handle along a path.
+    Status startOf(const RegistryHandle& handle, std::u16string_view path, std::shared_ptr<RegistryKey>& start) const;
+    // Both, and the walk itself: the existing key at the path.
+    Status findKey(const RegistryHandle& handle, std::u16string_view path, std::shared_ptr<RegistryKey>& key) const;
+    RegistryHandle makeHandle(std::shared_ptr<RegistryKey> key);
+    bool isDenied(const std::u16string& path) const;
+    bool holdsDenied(const std::u16string& path) const;
+
+    RegistryTree tree_;
+    std::map<std::uintptr_t, std::shared_ptr<RegistryKey>> handles_;
+    std::uintptr_t lastHandle_ = 0;
+    std::set<std::u16string, std::less<>> denied_;  // full paths in upper case, from the root's name on
+};
+
+}  // namespace korvane

@@ -1,0 +1,92 @@
+// One row, in the system's colours of the moment.
+#include "platform/win32/ColourComboPainter.h"
+
+#include <cstddef>
+#include <string>
+
+namespace korvane {
+namespace {
+
+constexpr int kSwatchWidth = 28;  // pixels, with the space around it
+constexpr int kSwatchMargin = 2;
+constexpr int kNameGap = 3;
+constexpr UINT kSpaceAroundLine = 2;
+
+COLORREF inverse(COLORREF colour) { return ~colour & 0xFFFFFF; }
+
+void fill(HDC dc, const RECT& area, COLORREF colour) {
+    const HBRUSH brush = CreateSolidBrush(colour);
+    FillRect(dc, &area, brush);
+    DeleteObject(brush);
+}
+
+std::string rowText(HWND combo, UINT row) {
+    const LRESULT length = SendMessageA(combo, CB_GETLBTEXTLEN, row, 0);
+    if (length == CB_ERR) {
+        return {};
+    }
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    SendMessageA(combo, CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+COLORREF textColour(const DRAWITEMSTRUCT& draw) {
+    if (draw.itemState & ODS_DISABLED) {
+        return GetSysColor(COLOR_GRAYTEXT);
+    }
+    const COLORREF colour = GetSysColor(COLOR_WINDOWTEXT);
+    return draw.itemState & ODS_SELECTED ? inverse(colour) : colour;
+}
+
+void drawSwatch(HDC dc, const RECT& row, COLORREF colour) {
+    RECT swatch = row;
+    swatch.right = swatch.left + kSwatchWidth;
+    InflateRect(&swatch, -kSwatchMargin, -kSwatchMargin);
+    fill(dc, swatch, colour);
+    FrameRect(dc, &swatch, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+}
+
+void drawName(const DRAWITEMSTRUCT& draw) {
+    const std::string name = rowText(draw.hwndItem, draw.itemID);
+    const int length = static_cast<int>(name.size());
+    SIZE size{};
+    GetTextExtentPoint32A(draw.hDC, name.c_str(), length, &size);
+    const int left = draw.rcItem.left + kSwatchWidth + kNameGap;
+    const int top = (draw.rcItem.top + draw.rcItem.bottom - size.cy) / 2;
+    const COLORREF oldColour = SetTextColor(draw.hDC, textColour(draw));
+    const int oldMode = SetBkMode(draw.hDC, TRANSPARENT);
+    TabbedTextOutA(draw.hDC, left, top, name.c_str(), length, 0, nullptr, left);
+    SetBkMode(draw.hDC, oldMode);
+    SetTextColor(draw.hDC, oldColour);
+}
+
+}  // namespace
+
+void measureColourRow(HWND dialog, MEASUREITEMSTRUCT& measure) {
+    const HDC dc = GetDC(dialog);
+    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageA(dialog, WM_GETFONT, 0, 0));
+    const HGDIOBJ oldFont = font != nullptr ? SelectObject(dc, font) : nullptr;
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(dc, &metrics);
+    if (oldFont != nullptr) {
+        SelectObject(dc, oldFont);
+    }
+    ReleaseDC(dialog, dc);
+    measure.itemHeight = static_cast<UINT>(metrics.tmHeight) + kSpaceAroundLine;
+}
+
+void drawColourRow(const DRAWITEMSTRUCT& draw) {
+    const bool selected = (draw.itemState & ODS_SELECTED) != 0;
+    fill(draw.hDC, draw.rcItem, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    // A closed list without a selection asks for its field to be drawn, too: it has no row.
+    if (draw.itemID != static_cast<UINT>(-1)) {
+        drawSwatch(draw.hDC, draw.rcItem, static_cast<COLORREF>(draw.itemData));
+        drawName(draw);
+    }
+    if (draw.itemState & ODS_FOCUS) {
+        DrawFocusRect(draw.hDC, &draw.rcItem);
+    }
+}
+
+}  // namespace korvane

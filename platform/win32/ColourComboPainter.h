@@ -1,0 +1,15 @@
+// Draws the rows of the colour list: a swatch of the row's colour, then its
+// name. The list itself is the platform's, with its keyboard and type-ahead.
+#pragma once
+
+#include <windows.h>
+
+namespace korvane {
+
+// For the dialog's WM_MEASUREITEM: rows as high as a line of the dialog's text.
+void measureColourRow(HWND dialog, MEASUREITEMSTRUCT& measure);
+
+// For the dialog's WM_DRAWITEM; a row's item data is its colour.
+void drawColourRow(const DRAWITEMSTRUCT& draw);
+
+}  // namespace korvane

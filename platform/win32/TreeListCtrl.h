@@ -1,0 +1,58 @@
+// The tree's window class: a container with a heading above the platform's own
+// tree view, which brings the keyboard, the wheel and the screen reader along.
+// It sends kTreeSelectionChanged to its parent when the selection changes.
+#pragma once
+
+#include "platform/TreeListCtrl.h"
+
+#include <windows.h>
+#include <commctrl.h>
+
+namespace korvane {
+
+constexpr char kTreeListClass[] = "Trellis.TreeListCtrl";
+constexpr UINT kTreeSelectionChanged = WM_USER + 202;
+
+// Needed before a dialog with such a control can be made.
+void registerTreeListClass(HINSTANCE instance);
+
+// The operations on one such window. It knows one style (lines, buttons, the selection always shown), one kind of
+// column (left-aligned, its edge cannot be dragged), and for every row two images, as the platform's tree does: those
+// for the expanded row are not used.
+class Win32TreeListCtrl final : public CTreeListCtrl {
+public:
+    // The window is borrowed, and so is the image list, which is the window's from SetImageList on.
+    explicit Win32TreeListCtrl(HWND window) : window_(window) {}
+    void offerImageList(HIMAGELIST images) { images_ = images; }
+
+    void SetStyle(std::uint32_t) override {}
+    void SetImageList() override;
+    void InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
+                      int order) override;
+    void SetColumnModify(int, int) override {}
+    void SetColumnWidth(int column, int width, int minimum, int maximum) override;
+    BackgroundImage& GetBGImage() override { return background_; }
+
+    void DeleteAllItems() override;
+    CTreeListItem InsertItem(std::string_view text, CTreeListItem parent, CTreeListItem after) override;
+    void SetItemData(CTreeListItem item, std::uint32_t data) override;
+    void SetItemBold(CTreeListItem item, bool bold) override;
+    void SetItemImage(CTreeListItem item, int normal, int selected, int expanded, int expandedSelected) override;
+
+    bool GetSelectedItemData(std::uint32_t& data) override;
+
+private:
+    class PlainBackground final : public BackgroundImage {
+    public:
+        void load(const std::string&, int& width, int& height) override { width = height = 0; }
+    };
+
+    LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) const;
+    void changeItem(TVITEMA& item) const;
+
+    HWND window_;
+    HIMAGELIST images_ = nullptr;
+    PlainBackground background_;
+};
+
+}  // namespace korvane

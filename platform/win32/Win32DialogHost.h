@@ -1,0 +1,41 @@
+// A dialog made from a resource whose decisions are somebody else's: a page of
+// the main window, or the About box.
+#pragma once
+
+#include "platform/win32/Win32Dialog.h"
+
+#include <optional>
+
+#include <windows.h>
+
+namespace korvane {
+
+// Puts a window in the middle of its owner, or of the desktop's free part when it has none.
+void centreWindow(HWND window);
+
+// Destroying the host does not destroy the window; the window must not outlive it otherwise than as the child of a
+// parent that is about to go.
+class Win32DialogHost {
+public:
+    // The handler is borrowed.
+    explicit Win32DialogHost(DialogHandler& handler) : handler_(handler) {}
+    Win32DialogHost(const Win32DialogHost&) = delete;
+    Win32DialogHost& operator=(const Win32DialogHost&) = delete;
+
+    // Makes a child dialog. Null when the platform cannot; the handler has then not been told anything.
+    HWND create(HINSTANCE instance, int templateId, HWND parent);
+    // Returns when the user has closed the dialog.
+    void runModal(HINSTANCE instance, int templateId, HWND owner);
+
+private:
+    static INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    INT_PTR onInitDialog(HWND window);
+    INT_PTR onCommand(WPARAM wParam, LPARAM lParam);
+    bool isPage() const;
+
+    DialogHandler& handler_;
+    std::optional<Win32Dialog> dialog_;
+};
+
+}  // namespace korvane

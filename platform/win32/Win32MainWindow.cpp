@@ -1,0 +1,228 @@
+// The dialog procedure of the main window, and what its owner asks of it.
+#include "platform/win32/Win32MainWindow.h"
+
+#include "platform/win32/Splitter.h"
+#include "platform/win32/Win32System.h"
+#include "res/ControlIds.h"
+
+#include <string>
+
+namespace korvane {
+namespace {
+
+constexpr UINT kShowHelp = WM_USER + 203;
+// The low four bits of a system command are the platform's own.
+constexpr WPARAM kSystemCommandMask = 0xFFF0;
+
+// The places of skin engine and splash: windows that show what is below them. They stand below the pages.
+LRESULT CALLBACK engineProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_ERASEBKGND) {
+        RECT area{};
+        GetClientRect(window, &area);
+        FillRect(reinterpret_cast<HDC>(wParam), &area, GetSysColorBrush(COLOR_3DFACE));
+        return 1;
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+void registerEngineClass(HINSTANCE instance, const char* name) {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = engineProc;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = name;
+    RegisterClassA(&windowClass);
+}
+
+void moveToBottom(HWND window) {
+    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+}  // namespace
+
+Win32MainWindow::Win32MainWindow(HINSTANCE instance, Win32System& system) : instance_(instance), system_(system) {
+    registerTreeListClass(instance);
+    registerSplitterClass(instance);
+    registerEngineClass(instance, "Korvane.SkinEngine");
+    registerEngineClass(instance, "Korvane.Splash");
+}
+
+Win32MainWindow::~Win32MainWindow() {
+    if (images_ != nullptr) {
+        ImageList_Destroy(images_);
+    }
+}
+
+int Win32MainWindow::runModal(MainWindowHandler& handler) {
+    handler_ = &handler;
+    return static_cast<int>(DialogBoxParamA(instance_, MAKEINTRESOURCEA(IDD_MAIN), nullptr, dialogProc,
+                                            reinterpret_cast<LPARAM>(this)));
+}
+
+// ---- Messages
+
+INT_PTR CALLBACK Win32MainWindow::dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrA(window, DWLP_USER, lParam);
+        reinterpret_cast<Win32MainWindow*>(lParam)->onInitDialog(window);
+        return TRUE;  // the platform sets the focus, to the tree
+    }
+    auto* self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, DWLP_USER));
+    return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
+}
+
+void Win32MainWindow::onInitDialog(HWND window) {
+    window_ = window;
+    dialog_.emplace(window);
+    tree_.emplace(GetDlgItem(window, IDC_TREE));
+    system_.setMainWindow(window);
+    // The dialog does not erase what its children paint, which would flicker; pages cover the engines' places.
+    SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | WS_CLIPCHILDREN);
+    moveToBottom(GetDlgItem(window, IDC_SPLASH));
+    centreWindow(window);
+    handler_->OnInitDialog();
+}
+
+INT_PTR Win32MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_SYSCOMMAND:
+            if ((wParam & kSystemCommandMask) == IDM_ABOUT) {
+                handler_->OnAbout();
+                return TRUE;
+            }
+            return FALSE;
+        case WM_COMMAND: return onCommand(wParam, lParam);
+        case WM_NOTIFY: return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        case kTreeSelectionChanged:
+            changeAtOnce([this] { handler_->OnSelectionChanged(); });
+            return TRUE;
+        case kShowHelp: handler_->OnHelp(); return TRUE;
+        case WM_PAINT: return paintIcon();
+        case WM_QUERYDRAGICON: return reinterpret_cast<INT_PTR>(icon_);
+        case WM_CLOSE: EndDialog(window_, IDCANCEL); return TRUE;
+        case WM_DESTROY: onDestroy(); return TRUE;
+        default: return FALSE;
+    }
+}
+
+INT_PTR Win32MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (LOWORD(wParam) == IDCANCEL) {
+        EndDialog(window_, IDCANCEL);
+        return TRUE;
+    }
+    if (HIWORD(wParam) != BN_CLICKED || control == nullptr) {
+        return FALSE;
+    }
+    // Enter on a page's button comes here, because this dialog is the one that is run; it is the page's to handle.
+    if (GetParent(control) != window_) {
+        SendMessageA(GetParent(control), WM_COMMAND, wParam, lParam);
+        return TRUE;
+    }
+    // Enter anywhere else means the default button, even while it is hidden.
+    if (LOWORD(wParam) == IDC_APPLY && IsWindowVisible(control)) {
+        handler_->OnApplyChanges();
+    }
+    return TRUE;
+}
+
+INT_PTR Win32MainWindow::onNotify(const NMHDR& notification) {
+    if (notification.idFrom != IDC_DIVIDER || notification.code != kSplitterMoved) {
+        return FALSE;
+    }
+    const int distance = reinterpret_cast<const SplitterNotification&>(notification).distance;
+    changeAtOnce([&] { handler_->OnDividerMoved(distance); });
+    return TRUE;
+}
+
+// What changes control by control is shown when it is complete: some controls draw themselves at once, and moved
+// windows drag along what happens to lie below them.
+void Win32MainWindow::changeAtOnce(const std::function<void()>& change) {
+    if (!IsWindowVisible(window_)) {
+        change();
+        return;
+    }
+    SendMessageA(window_, WM_SETREDRAW, FALSE, 0);
+    change();
+    SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
+    redrawAll();
+}
+
+// Only a minimized window draws itself: its icon.
+bool Win32MainWindow::paintIcon() {
+    if (!IsIconic(window_)) {
+        return false;
+    }
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(window_, &paint);
+    SendMessageA(window_, WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+    RECT client{};
+    GetClientRect(window_, &client);
+    DrawIcon(dc, (client.right - GetSystemMetrics(SM_CXICON) + 1) / 2,
+             (client.bottom - GetSystemMetrics(SM_CYICON) + 1) / 2, icon_);
+    EndPaint(window_, &paint);
+    return true;
+}
+
+void Win32MainWindow::onDestroy() {
+    handler_->OnDestroy();
+    system_.setMainWindow(nullptr);
+    SetWindowLongPtrA(window_, DWLP_USER, 0);
+}
+
+// ---- What the owner asks for
+
+void Win32MainWindow::appendSystemMenu(int commandId, std::string_view text) {
+    const HMENU menu = GetSystemMenu(window_, FALSE);
+    AppendMenuA(menu, MF_SEPARATOR, 0, nullptr);
+    AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(commandId), std::string(text).c_str());
+}
+
+void Win32MainWindow::setIcons(int resourceId) {
+    icon_ = LoadIconA(instance_, MAKEINTRESOURCEA(resourceId));
+    const HANDLE small = LoadImageA(instance_, MAKEINTRESOURCEA(resourceId), IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
+                                    GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+    SendMessageA(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon_));
+    SendMessageA(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small));
+}
+
+void Win32MainWindow::createImageList(int size, int initialImages, int growth) {
+    images_ = ImageList_Create(size, size, ILC_COLOR24 | ILC_MASK, initialImages, growth);
+    tree_->offerImageList(images_);
+}
+
+void Win32MainWindow::addImage(int bitmapResource, Colour mask) {
+    const HBITMAP bitmap = LoadBitmapA(instance_, MAKEINTRESOURCEA(bitmapResource));
+    ImageList_AddMasked(images_, bitmap, mask);
+    DeleteObject(bitmap);
+}
+
+void Win32MainWindow::createDivider(int controlId, int rangeLeft, int rangeRight) {
+    const HWND divider = createSplitter(instance_, window_, controlId, dialog_->controlRect(controlId), rangeLeft,
+                                        rangeRight);
+    // Above the pages, and found before its placeholder, which has the same id.
+    SetWindowPos(divider, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void Win32MainWindow::createPage(int templateId, DialogHandler& handler) {
+    auto page = std::make_unique<Win32DialogHost>(handler);
+    const HWND made = page->create(instance_, templateId, window_);
+    pages_.push_back(std::move(page));
+    if (made != nullptr) {
+        // Tree, divider and button cover the pages' edges; the keyboard goes from the tree to the page to the button.
+        moveToBottom(made);
+        moveToBottom(GetDlgItem(window_, IDC_SPLASH));
+    }
+}
+
+void Win32MainWindow::runAboutBox(DialogHandler& handler) {
+    Win32DialogHost(handler).runModal(instance_, IDD_ABOUT, window_);
+}
+
+void Win32MainWindow::redrawAll() {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+void Win32MainWindow::postClose() { PostMessageA(window_, WM_CLOSE, 0, 0); }
+
+}  // namespace korvane

@@ -1,0 +1,73 @@
+// The real main window: dialog 102, run modally, with its tree, its divider,
+// its pages and the image list.
+#pragma once
+
+#include "platform/MainWindow.h"
+#include "platform/win32/TreeListCtrl.h"
+#include "platform/win32/Win32Dialog.h"
+#include "platform/win32/Win32DialogHost.h"
+#include "skin/NeutralSkin.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <windows.h>
+#include <commctrl.h>
+
+namespace korvane {
+
+class Win32System;
+
+class Win32MainWindow final : public MainWindow {
+public:
+    // The system's message boxes and pickers belong to the window while it lives.
+    Win32MainWindow(HINSTANCE instance, Win32System& system);
+    Win32MainWindow(const Win32MainWindow&) = delete;
+    Win32MainWindow& operator=(const Win32MainWindow&) = delete;
+    ~Win32MainWindow() override;
+
+    // Returns when the window has closed: the result it was ended with, or -1 if it could not be made.
+    int runModal(MainWindowHandler& handler);
+
+    DialogControls& controls() override { return *dialog_; }
+    CTreeListCtrl& tree() override { return *tree_; }
+    SplashWindow& splash() override { return splash_; }
+    ISkinEngine* skinEngine() override { return &skin_; }
+
+    void appendSystemMenu(int commandId, std::string_view text) override;
+    void setIcons(int resourceId) override;
+    void createImageList(int size, int initialImages, int growth) override;
+    void addImage(int bitmapResource, Colour mask) override;
+    void createDivider(int controlId, int rangeLeft, int rangeRight) override;
+    void createPage(int templateId, DialogHandler& handler) override;
+    void runAboutBox(DialogHandler& handler) override;
+    void redrawAll() override;
+    void postClose() override;
+
+private:
+    static INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void onInitDialog(HWND window);
+    INT_PTR onCommand(WPARAM wParam, LPARAM lParam);
+    INT_PTR onNotify(const NMHDR& notification);
+    void changeAtOnce(const std::function<void()>& change);
+    bool paintIcon();
+    void onDestroy();
+
+    HINSTANCE instance_;
+    Win32System& system_;
+    MainWindowHandler* handler_ = nullptr;
+    HWND window_ = nullptr;
+    HICON icon_ = nullptr;
+    HIMAGELIST images_ = nullptr;
+    std::optional<Win32Dialog> dialog_;
+    std::optional<Win32TreeListCtrl> tree_;
+    std::vector<std::unique_ptr<Win32DialogHost>> pages_;
+    NeutralSkinEngine skin_;
+    NeutralSplash splash_;
+};
+
+}  // namespace korvane
