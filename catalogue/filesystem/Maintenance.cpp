@@ -2,9 +2,129 @@
 // caching, upkeep of disks and NTFS, discs that start by themselves, burning and
 // the Recycle Bin.
 #include "catalogue/Units.h"
+#include "catalogue/filesystem/FileSystemKeys.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
+
+#include <vector>
 
 namespace korvane {
 namespace {
+
+// ---- 124: without a selection the combo's index -1 is written: meant so, as in 141.
+constexpr NumberEntry kCacheUses[] = {{"Desktop Computers", 0}, {"Network Servers", 1}};
+constexpr Choice kCacheUse[] = {
+    {.label = "Optimize System Cache for:",
+     .binding = DwordChoice{
+         .key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management"},
+         .name = "LargeSystemCache",
+         .entries = kCacheUses}}};
+
+constexpr CheckBox kBootOptimization[] = {
+    {.text = "Enable Automatic Boot Disk Optimization .",
+     .binding = StringFlag{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Dfrg\\BootOptimizeFunction"},
+                           .name = "Enable",
+                           .checked = "Y",
+                           .cleared = "N"}}};
+
+// ---- 139: the index counts from 0, the stored number from 1; so no selection is written as 0.
+constexpr NumberEntry kTableZones[] = {{"Small Zone Reservation (Default)", 1},
+                                       {"Medium Zone Reservation", 2},
+                                       {"Large Zone Reservation", 3},
+                                       {"Maximum Zone Reservation", 4}};
+constexpr Choice kTableZone[] = {
+    {.label = "NTFS Reserves Space for its Master File:",
+     .binding = DwordChoice{
+         .key = kFileSystemControl, .name = "NtfsMftZoneReservation", .entries = kTableZones, .noneNumber = 0}}};
+
+constexpr auto kLowDiskSpace =
+    ScopePair("Disable Low Disk Space Notification (Current User).", "Disable Low Disk Space Notification (All Users).",
+              DwordCheckState{.key = kFileSystemPolicies, .name = "NoLowDiskSpaceChecks"});
+
+constexpr Choice kAutocheckTimeOut[] = {
+    {.label = "The Autocheck Time-out Value\n(Time in Seconds or (0) to disable,(default=10)):",
+     .binding = DwordChoice{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Session Manager"},
+                            .name = "AutoChkTimeOut",
+                            .range = {.first = 0, .last = 3600}}}};
+
+constexpr CheckBox kDiscAutoRun[] = {
+    {.text = "Automatically Start CD-R and DVD-R Disks .",
+     .binding = DwordCheckState{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Services\\Cdrom"},
+                                .name = "AutoRun"}}};
+constexpr CheckBox kKeepPermissions[] = {
+    {.text = "Force Windows to preserve the current permissions instead.",
+     .binding = DwordCheckState{.key = kFileSystemPolicies, .name = "ForceCopyAclwithFile"}}};
+
+// ---- 146: the policy key is made for all users alone, and the two texts end differently: meant so.
+constexpr std::string_view kNoBurning = "NoCDBurning";
+constexpr CheckBox kBurning[] = {
+    {.text = "Disable CD Burning (Current User).",
+     .binding = DwordCheckState{.key = kFileSystemPolicies, .name = kNoBurning}},
+    {.text = "Disable CD Burning.(All Users)",
+     .binding = DwordCheckState{.key = kFileSystemPolicies.under(Root::LocalMachine).madeWhole(), .name = kNoBurning}}};
+
+constexpr CheckBox kLastAccess[] = {
+    {.text = "Disable the NTFS Last Access Time Stamp.",
+     .binding = DwordCheckState{.key = kFileSystemControl, .name = "NtfsDisableLastAccessUpdate"}}};
+constexpr CheckBox kRecycleBin[] = {
+    {.text = "Disable the Recycle Bin .",
+     .binding = DwordCheckState{
+         .key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\BitBucket"},
+         .name = "NukeOnDelete"}}};
+constexpr CheckBox kEncryption[] = {
+    {.text = "Disable The Encrypting File System .",
+     .binding = DwordCheckState{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\EFS"},
+                                .name = "EfsConfiguration"}}};
+
+// ---- 152: a row for each drive that cannot be taken out, and A: and ALL always.
+constexpr TableColumn kDriveColumns[] = {{"Drive", 372}};
+constexpr Table kDriveList{.columns = kDriveColumns};
+constexpr std::uint32_t kRemovable = 2;
+constexpr std::uint32_t kAllDrives = 0x3FFFFFF;
+
+// What each row of the list last shown stands for. Kept, because a drive that comes or goes while the page is open must
+// not shift the meaning of the rows.
+constinit std::vector<std::uint32_t> shownDriveBits;
+
+// 0 for what is no drive's root. B: never gets a row, and A: has its row already: meant so.
+std::uint32_t driveBit(std::string_view root) {
+    const bool offered = root.size() == 3 && root[0] >= 'C' && root[0] <= 'Z' && root.substr(1) == ":\\";
+    return offered ? std::uint32_t{1} << (root[0] - 'A') : 0;
+}
+
+void showDrives(PageContext& context) {
+    const auto addRow = [&](std::string_view text, std::uint32_t bits) {
+        context.page.insertRow(IDC_CHECK_LIST, static_cast<int>(shownDriveBits.size()), text);
+        shownDriveBits.push_back(bits);
+    };
+    shownDriveBits.clear();
+    addRow("A:\\", 1);
+    for (const Drive& drive : context.platform.folders.logicalDrives()) {
+        const std::uint32_t bit = driveBit(drive.root);
+        if (bit != 0 && drive.driveType != kRemovable) {
+            addRow(drive.root, bit);
+        }
+    }
+    addRow("ALL", kAllDrives);
+}
+
+// The rows are added up, not combined: ALL together with a drive overflows into bit 26. Meant so.
+void applyDrives(PageContext& context) {
+    std::uint32_t sum = 0;
+    int row = 0;
+    for (const std::uint32_t bits : shownDriveBits) {
+        sum += context.page.rowCheck(IDC_CHECK_LIST, row++) ? bits : 0;
+    }
+    if (const OpenedKey key = context.openForWriting(kFileSystemPolicies)) {
+        writeNumber(context.platform.registry, key, "NoDriveAutoRun", sum);
+    }
+}
+
+constexpr CheckBox kNameCase[] = {
+    {.text = "Show File and Folder Names Using the Correct Case .",
+     .binding =
+         DwordCheckState{.key = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"},
+                         .name = "DontPrettyPath"}}};
 
 constexpr OverviewRow kFileSystemRows[] = {{142}, {146}, {148}};
 constexpr Overview kFileSystemOverview{.rows = kFileSystemRows};
@@ -33,7 +153,10 @@ constexpr Tweak kTweaks[] = {
      .title = "Optimize the System Cache Size",
      .description =
          "Chooses what most of the memory is kept for: programs on desktop computers, or the cache of the file system "
-         "on network servers. The server setting speeds up file sharing but leaves less memory to programs."},
+         "on network servers. The server setting speeds up file sharing but leaves less memory to programs.",
+     .page = Page::CheckCombos,
+     .choices = kCacheUse,
+     .gate = kGateNt},
     {.id = 137,
      .title = "Maintenance",
      .description = "Error Checking and Defragmentation Settings",
@@ -46,36 +169,59 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Lets Windows XP move the files that it needs at startup next to each other on the disk while the computer is "
          "idle. The computer then starts faster; turn it off if you leave this work to another defragmenter.",
-     .treeParent = 137},
+     .treeParent = 137,
+     .page = Page::Checks,
+     .boxes = kBootOptimization,
+     .note = kNoteWithSmallYou,
+     .gate = kGateXp},
     {.id = 139,
      .title = "Control How NTFS Reserves Space for its Master File Table",
      .description =
          "NTFS keeps part of each drive free for its master file table, so that the table does not get fragmented. "
          "Choose a larger zone for drives with very many small files; other files are stored in it only when the rest "
-         "is full."},
+         "is full.",
+     .page = Page::CheckCombos,
+     .choices = kTableZone,
+     .note = kRestartNote,
+     .gate = kGateNt},
     {.id = 140,
      .title = "Disable Low Disk Space Notification",
      .description =
          "Stops the warnings that appear when a drive is nearly full, for the current user or for all users. Useful "
          "for small or deliberately filled drives, but then watch the free space yourself.",
-     .treeParent = 137},
+     .treeParent = 137,
+     .page = Page::Checks,
+     .boxes = kLowDiskSpace,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateXp},
     {.id = 141,
      .title = "Modifying the Autocheck Time-out Value",
      .description =
          "Sets how many seconds Windows waits for a key to skip the disk check that follows an improper shutdown. The "
          "usual value is 10; 0 starts the check at once and leaves no chance to skip it.",
-     .treeParent = 137},
+     .treeParent = 137,
+     .page = Page::CheckCombos,
+     .choices = kAutocheckTimeOut,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateNt},
     {.id = 142,
      .title = "Automatic Start CD-R and DVD-R Disks",
      .description =
          "Lets Windows notice inserted CDs and DVDs and start them by itself, for all users. Clear it if unknown discs "
          "should not run programs, or if the constant checking of the drive disturbs burning.",
-     .treeParent = 122},
+     .treeParent = 122,
+     .page = Page::Checks,
+     .boxes = kDiscAutoRun,
+     .note = kRestartOrLogOutNote},
     {.id = 143,
      .title = "Change Copy and Move NTFS Permission",
      .description =
          "Lets files that the current user copies or moves with Explorer keep their own NTFS permissions instead of "
-         "taking over those of the target folder. Use it when protected files are moved to another place."},
+         "taking over those of the target folder. Use it when protected files are moved to another place.",
+     .page = Page::Checks,
+     .boxes = kKeepPermissions,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateNt},
     {.id = 144,
      .title = "Change Drive Name and Icon",  // same title as record 106, on purpose
      .description =
@@ -91,18 +237,30 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Removes the CD burning functions of Explorer, for the current user or for all users. Separate burning "
          "programs still work; use it if you prefer one of those or if no data should be carried away this way.",
-     .treeParent = 122},
+     .treeParent = 122,
+     .page = Page::Checks,
+     .boxes = kBurning,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateXp},
     {.id = 147,
      .title = "Disable the NTFS Last Access Time Stamp",
      .description =
          "Stops NTFS from noting the time of the last access for each file and folder that is read. Large folders are "
-         "read faster, but backup and cleanup programs can no longer tell which files were used lately."},
+         "read faster, but backup and cleanup programs can no longer tell which files were used lately.",
+     .page = Page::Checks,
+     .boxes = kLastAccess,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateNt},
     {.id = 148,
      .title = "Disable the Recycle Bin",
      .description =
          "Deletes files at once instead of moving them to the Recycle Bin, for all users, as long as all drives share "
          "one setting. It frees the space immediately, but a file deleted by mistake cannot be fetched back.",
-     .treeParent = 122},
+     .treeParent = 122,
+     .page = Page::Checks,
+     .boxes = kRecycleBin,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateNt},
     {.id = 149,
      .title = "Enable 48-bit LBA Support or Large Hard Drive",
      .description =
@@ -117,13 +275,21 @@ constexpr Tweak kTweaks[] = {
      .title = "Manage the Encrypting File System",
      .description =
          "Turns the Encrypting File System off or on for the whole computer. Without it nobody can encrypt files, nor "
-         "lose them along with a key; files that are already encrypted cannot be opened while it is off."},
+         "lose them along with a key; files that are already encrypted cannot be opened while it is off.",
+     .page = Page::Checks,
+     .boxes = kEncryption,
+     .note = kRestartOrLogOutNote,
+     .gate = kGate2000Xp},
     {.id = 152,
      .title = "Select the Disk Drives to Start Automatically",
      .description =
          "Sets the drives on which AutoRun is switched off for the current user: checked drives no longer start "
          "inserted disks, all others may. The list does not show what is stored, so check every drive you mean, or "
-         "only the row ALL."},
+         "only the row ALL.",
+     .page = Page::CheckList,
+     .table = &kDriveList,
+     .show = showDrives,
+     .apply = applyDrives},
     {.id = 153,
      .title = "Select the Drive Types to Start Automatically",
      .description =
@@ -133,7 +299,11 @@ constexpr Tweak kTweaks[] = {
      .title = "Show File and Folder Names Using the Correct Case",
      .description =
          "Shows file and folder names that are all in capital letters exactly as they were typed, for the current "
-         "user. Without it Explorer writes them with one capital letter and the rest small."},
+         "user. Without it Explorer writes them with one capital letter and the rest small.",
+     .page = Page::Checks,
+     .boxes = kNameCase,
+     .note = kRestartOrLogOutNote,
+     .gate = kGateNotNt4},
 };
 
 }  // namespace

@@ -1,9 +1,268 @@
 // The Login and Authentication tweaks: what the login screen shows, who may log
 // in without typing a password, and how a locked computer is unlocked.
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "pages/PageLayout.h"
+#include "res/ControlIds.h"
+
+#include <iterator>
+#include <variant>
 
 namespace korvane {
 namespace {
+
+// The notes differ in small ways: meant so.
+constexpr std::string_view kNote =
+    "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
+constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect";
+constexpr std::string_view kWallpaperNote = "Note:\n\tRestart Windows for the changes to take effect.";
+constexpr std::string_view kLegalNoticeNote =
+    "Note:\n\tRestart Windows, and the next time you boot up you should be presented with the dialog box before "
+    "logging "
+    "on.";
+constexpr std::string_view kUnlockNote =
+    "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.\n"
+    "For Windows XP this behavior only happens when you have Fast User Switching disabled.";
+
+constexpr KeyPath kWinlogon{Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"};
+// The desktop behind the login dialog.
+constexpr KeyPath kLoginDesktop{Root::Users, ".DEFAULT\\Control Panel\\Desktop"};
+
+constexpr CheckBox kFastSwitching[] = {
+    {.text = "Enable Fast User Switching .",
+     .binding = DwordCheckState{.key = kWinlogon, .name = "AllowMultipleTSSessions"}}};
+
+// ---- 158: the second box is the opposite of its value, which is absent while the box is checked.
+constexpr std::string_view kForceAutoLogon = "ForceAutoLogon";
+constexpr CheckBox kAutoLoginBoxes[] = {{.text = "Login automatically at system startup.",
+                                         .binding = StringFlag{.key = kWinlogon, .name = "AutoAdminLogon"}},
+                                        {.text = "Reset after reboot?"}};
+constexpr Field kAutoLoginFields[] = {
+    {.label = "UserName:", .binding = StringValue{.key = kWinlogon, .name = "DefaultUserName"}},
+    {.label = "Password:", .binding = StringValue{.key = kWinlogon, .name = "DefaultPassword"}},
+    {.label = "Domain(optional):", .binding = StringValue{.key = kWinlogon, .name = "DefaultDomainName"}}};
+
+void showAutoLogin(PageContext& context) {
+    const auto forced = context.read(kWinlogon, kForceAutoLogon);
+    context.page.setCheck(IDC_CHECK2, forced && forced->text() == "1" ? 0 : 1);
+}
+
+void applyAutoLogin(PageContext& context) {
+    applyCheck(context, IDC_CHECK1, kAutoLoginBoxes[0].binding);
+    for (std::size_t i = 0; i < std::size(kAutoLoginFields); ++i) {
+        applyField(context, fieldControls(context.tweak, i).edit, kAutoLoginFields[i].binding);
+    }
+    if (context.checked(IDC_CHECK2)) {
+        context.remove(kWinlogon, kForceAutoLogon);
+    } else if (const OpenedKey key = context.openForWriting(kWinlogon)) {
+        writeText(context.platform.registry, key, kForceAutoLogon, "1");
+    }
+}
+
+// ---- 159: the box switches the fields, but a cleared box does not keep them from being written.
+constexpr std::string_view kSaverActive = "ScreenSaveActive";
+constexpr std::string_view kSaverProgram = "SCRNSAVE.EXE";
+constexpr CheckBox kLoginSaverBox[] = {{.text = "Enable Login Screen Saver."}};
+constexpr Field kLoginSaverFields[] = {
+    {.label = "Screen Saver(.exe):",
+     .binding = StringValue{.key = kLoginDesktop, .name = kSaverProgram},
+     .browse = true},
+    {.label = "Screen Saver TimeOut:", .binding = StringValue{.key = kLoginDesktop, .name = "ScreenSaveTimeOut"}}};
+
+void showLoginSaver(PageContext& context) {
+    const auto value = context.read(kLoginDesktop, kSaverActive);
+    const int state = value ? decimalNumber(value->text()) : 0;
+    context.page.setCheck(IDC_CHECK1, static_cast<std::uint32_t>(state));
+    for (const int control : {IDC_EDIT1, IDC_EDIT2, IDC_BROWSE1}) {
+        context.page.enableControl(control, state == 1);
+    }
+}
+
+// The login screen looks for the program in the system folder, so a path there is cut off; the folder's name in other
+// letter cases stays.
+std::string withoutSystemFolder(PageContext& context, std::string program) {
+    const std::string windows = context.platform.folders.windowsFolder();
+    if (!windows.empty()) {
+        replaceAll(program, windows + "\\System32\\", "");
+        replaceAll(program, windows + "\\system32\\", "");
+    }
+    replaceAll(program, "\"", "");
+    return program;
+}
+
+void applyLoginSaver(PageContext& context) {
+    Registry& registry = context.platform.registry;
+    const OpenedKey key = context.openForWriting(kLoginDesktop);
+    if (!key) {
+        return;
+    }
+    writeText(registry, key, kSaverActive, context.checked(IDC_CHECK1) ? "1" : "0");
+    const std::string program = withoutSystemFolder(context, context.page.text(IDC_EDIT1));
+    if (program.empty()) {
+        context.remove(kLoginDesktop, kSaverProgram);
+    } else {
+        writeText(registry, key, kSaverProgram, program);
+    }
+    applyField(context, IDC_EDIT2, kLoginSaverFields[1].binding);
+}
+
+constexpr NumberEntry kLoginWindows[] = {{"Classic Mode", 0}, {"Welcome Screen", 1}};
+constexpr Choice kLoginWindow[] = {
+    {.label = "Login Window Type:",
+     .binding = DwordChoice{.key = kWinlogon, .name = "LogonType", .entries = kLoginWindows}}};
+
+// ---- 161: a wallpaper would cover the colour, so it goes, whatever the colour is.
+constexpr std::string_view kWallpaper = "Wallpaper";
+constexpr std::string_view kNone = "(None)";
+constexpr ColourField kBackground{.label = "Login Screen Color (RGB):",
+                                  .binding = ColourText{.key = kWinlogon, .name = "Background"}};
+constexpr ColourText kDesktopColour{.key = {Root::Users, ".DEFAULT\\Control Panel\\Colors"}, .name = "Background"};
+
+void applyBackground(PageContext& context) {
+    if (const OpenedKey key = context.openForWriting(kLoginDesktop)) {
+        writeText(context.platform.registry, key, kWallpaper, kNone);
+    }
+    applyColour(context, IDC_COLOUR_COMBO, kDesktopColour);
+    applyColour(context, IDC_COLOUR_COMBO, kBackground.binding);
+}
+
+// ---- 162: a pattern would show beside the wallpaper, so it goes each time.
+constexpr Field kWallpaperField[] = {
+    {.label = "Default Wallpaper(*.bmp):",
+     .binding = StringValue{.key = kLoginDesktop, .name = kWallpaper, .whenEmpty = WhenEmpty::WritesNothing},
+     .browse = true}};
+constexpr CheckBox kTileWallpaper[] = {
+    {.text = "Tile Wallpaper.", .binding = StringFlag{.key = kLoginDesktop, .name = "TileWallpaper"}}};
+
+void applyWallpaper(PageContext& context) {
+    applyField(context, IDC_EDIT1, kWallpaperField[0].binding);
+    applyCheck(context, IDC_CHECK1, kTileWallpaper[0].binding);
+    if (const OpenedKey key = context.openForWriting(kLoginDesktop)) {
+        writeText(context.platform.registry, key, "Pattern", kNone);
+    }
+}
+
+constexpr Field kDialogTitle[] = {
+    {.label = "Dialog Title:",
+     .binding = StringValue{.key = kWinlogon, .name = "Welcome", .whenEmpty = WhenEmpty::WritesNothing}}};
+
+// How often Windows has reminded; after the tenth time it stops.
+constexpr std::byte kTenReminders[] = {std::byte{10}, std::byte{0}, std::byte{0}, std::byte{0}};
+constexpr std::byte kOneReminder[] = {std::byte{1}, std::byte{0}, std::byte{0}, std::byte{0}};
+constexpr CheckBox kPassport[] = {
+    {.text = "Disable Passport Balloon Reminder.",
+     .binding = BinaryFlag{.key = {Root::CurrentUser, "Software\\Microsoft\\MessengerService"},
+                           .name = "PassportBalloon",
+                           .checked = kTenReminders,
+                           .cleared = kOneReminder}}};
+
+constexpr CheckBox kShiftOverride[] = {
+    {.text = "Disable the Auto Login Shift Override Feature .",
+     .binding = StringFlag{.key = kWinlogon, .name = "IgnoreShiftOverride", .clearedDeletes = true}}};
+
+constexpr KeyPath kUnreadMailKey{Root::CurrentUser, {}, "Software\\Microsoft\\Windows\\CurrentVersion\\UnreadMail"};
+constexpr CheckBox kUnreadMail[] = {
+    {.text = "Disable the Unread Mail Message on the Welcome Screen .",
+     .binding = DwordFlag{.key = kUnreadMailKey, .name = "MessageExpiryDays", .checked = 0, .cleared = 3}}};
+
+constexpr CheckBox kShutdown[] = {
+    {.text = "Enable Shutdown from Authentication Dialog Box .",
+     .binding =
+         DwordCheckState{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\system"},
+                         .name = "ShutdownWithoutLogon"}}};
+
+// A number here, the text "1" in 158: meant so.
+constexpr CheckBox kForceAutoLogin[] = {
+    {.text = "Force Auto-Login.", .binding = DwordCheckState{.key = kWinlogon, .name = kForceAutoLogon}}};
+
+// ---- 169: each family of Windows keeps it in another place, and one refuses.
+constexpr CheckBox kLastUserBox[] = {{.text = "Do not display the last username."}};
+constexpr std::string_view kDontDisplayLastUser = "DontDisplayLastUserName";
+constexpr int kNotOnWindows95 = 2018;
+
+CheckBinding lastUserBinding(const COsVersion& version) {
+    if (version.IsWinNT4()) {
+        return DwordCheckState{.key = kWinlogon, .name = kDontDisplayLastUser};
+    }
+    if (version.IsWin2000() || version.IsWinXP()) {
+        return DwordCheckState{
+            .key = {Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\System"},
+            .name = kDontDisplayLastUser};
+    }
+    if (version.IsWin98() || version.IsWinMe()) {
+        return StringFlag{.key = {Root::LocalMachine, "Network\\Logon"}, .name = "DontShowLastUser"};
+    }
+    return Unbound{};
+}
+
+void showLastUser(PageContext& context) { showCheck(context, IDC_CHECK1, lastUserBinding(context.version)); }
+
+// A Windows that the program does not know is left alone without a word: meant so.
+void applyLastUser(PageContext& context) {
+    if (context.version.IsWin95()) {
+        context.host.alert(kNotOnWindows95);
+        return;
+    }
+    const CheckBinding binding = lastUserBinding(context.version);
+    if (!std::holds_alternative<Unbound>(binding)) {
+        context.host.stamp();
+        applyCheck(context, IDC_CHECK1, binding);
+    }
+}
+
+constexpr CheckBox kWelcomeScreen[] = {
+    {.text = "Do not display the Welcome Screen .",
+     .binding = DwordCheckState{
+         .key = {Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"},
+         .name = "NoWelcomeScreen"}}};
+
+// ---- 171: any Windows but NT, known or not, has its own place.
+constexpr KeyPath kLegalNoticeKey{.root = Root::LocalMachine,
+                                  .path = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Winlogon",
+                                  .otherOn = kWindowsNT,
+                                  .otherPath = kWinlogon.path};
+constexpr Field kLegalNotice[] = {
+    {.label = "Notice Title:", .binding = StringValue{.key = kLegalNoticeKey, .name = "LegalNoticeCaption"}},
+    {.label = "Notice Text:", .binding = StringValue{.key = kLegalNoticeKey, .name = "LegalNoticeText"}}};
+
+// ---- 172: a number on Windows XP and a text before it; either is shown as a number.
+constexpr std::string_view kAutoLogonCount = "AutoLogonCount";
+constexpr Field kAutoLoginCount[] = {{.label = "Number of Automatic Logins:"}};
+
+void showAutoLoginCount(PageContext& context) {
+    if (const auto value = context.read(kWinlogon, kAutoLogonCount)) {
+        const int count =
+            value->type == ValueType::Sz ? decimalNumber(value->text()) : static_cast<int>(value->number());
+        context.page.setText(IDC_EDIT1, std::to_string(count));
+    }
+}
+
+void applyAutoLoginCount(PageContext& context) {
+    Registry& registry = context.platform.registry;
+    const std::string text = context.page.text(IDC_EDIT1);
+    const int count = decimalNumber(text);
+    if (count == 0) {
+        context.remove(kWinlogon, kAutoLogonCount);
+    } else if (const OpenedKey key = context.openForWriting(kWinlogon)) {
+        if (context.version.IsWinXP()) {
+            writeNumber(registry, key, kAutoLogonCount, static_cast<std::uint32_t>(count));
+        } else {
+            writeText(registry, key, kAutoLogonCount, text);
+        }
+    }
+}
+
+constexpr Choice kCachedLogins[] = {
+    {.label = "Number of Cached Logins\n(0=disabled, 10=default):",
+     .binding = StringChoice{.key = kWinlogon, .name = "CachedLogonsCount", .range = {.first = 0, .last = 50}}}};
+
+constexpr CheckBox kLoginOptions[] = {{.text = "Display Options on Login Dialog Box .",
+                                       .binding = DwordCheckState{.key = kWinlogon, .name = "ShowLogonOptions"}}};
+
+constexpr NumberEntry kAuthentications[] = {{"Default Authentication", 0}, {"Online Authentication", 1}};
+constexpr Choice kAuthentication[] = {
+    {.label = "Authentication mode:",
+     .binding = DwordChoice{.key = kWinlogon, .name = "ForceUnlockLogon", .entries = kAuthentications, .initial = 0}}};
 
 constexpr OverviewRow kLoginAndAuthenticationRows[] = {
     {156}, {159}, {160}, {161}, {163}, {164}, {166}, {167}, {169}, {170}, {171}, {173}, {176},
@@ -24,7 +283,11 @@ constexpr Tweak kTweaks[] = {
          "With Fast User Switching another person can log in while your programs keep running in the background. "
          "Turn it off on a computer that must not hold several sessions at once, for example to save memory. The "
          "Welcome screen has to be in use.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kFastSwitching,
+     .note = kNote,
+     .gate = kGateXp},
     {.id = 157,
      .title = "Automatic Login for Novell Netware Clients",
      .description =
@@ -36,7 +299,13 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Logs the given user in at startup without a login dialog, for computers that only one person uses. The "
          "password is kept as plain text where others may read it. Clear 'Reset after reboot?' to force the "
-         "automatic login again after every logoff as well."},
+         "automatic login again after every logoff as well.",
+     .page = Page::CheckFields,
+     .boxes = kAutoLoginBoxes,
+     .fields = kAutoLoginFields,
+     .gate = kGateNt,
+     .show = showAutoLogin,
+     .apply = applyAutoLogin},
     {.id = 159,
      .title = "Change the Default Login Screen Saver",
      .description =
@@ -44,94 +313,160 @@ constexpr Tweak kTweaks[] = {
          "belongs to the login screen only; the screen savers that users have chosen for themselves stay as they "
          "are.",
      .treeParent = 155,
-     .treeText = "Change the Default login Screen Saver"},
+     .treeText = "Change the Default login Screen Saver",
+     .page = Page::CheckFields,
+     .boxes = kLoginSaverBox,
+     .fields = kLoginSaverFields,
+     .gate = kGateNt,
+     .show = showLoginSaver,
+     .apply = applyLoginSaver},
     {.id = 160,
      .title = "Change the Login Window",
      .description =
          "Windows XP can greet users with the friendly Welcome screen and its pictures or with the classic dialog, "
          "where user name and password are typed. Classic mode does not show to passers-by which accounts exist.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::CheckCombos,
+     .choices = kLoginWindow,
+     .note = kNote,
+     .gate = kGateXp},
     {.id = 161,
      .title = "Change the Login Screen Background Color",
      .description =
          "Paints the background of the screen behind the login dialog in a color of your choice. Applying a color "
          "also removes the wallpaper of the login screen, because a picture would cover it.",
      .treeParent = 155,
-     .treeText = "Change the login Screen Background Color"},
+     .treeText = "Change the login Screen Background Color",
+     .page = Page::CheckCombos,
+     .colour = &kBackground,
+     .note = kRestartNote,
+     .apply = applyBackground},
     {.id = 162,
      .title = "Change the Login Screen Wallpaper",
      .description =
          "Puts a bitmap on the desktop behind the login dialog, repeated as tiles all over the screen if you wish, "
          "for example to show a company logo or a contact address. The background pattern of the login screen is "
-         "removed."},
+         "removed.",
+     .page = Page::CheckFields,
+     .boxes = kTileWallpaper,
+     .fields = kWallpaperField,
+     .note = kWallpaperNote,
+     .apply = applyWallpaper},
     {.id = 163,
      .title = "Customize the Windows Login and Security Dialog Titles",
      .description =
          "Adds a text of your own to the title of the login dialog and of the Windows Security dialog, such as the "
          "name of the company or of the computer. An empty field leaves the present title alone.",
      .treeParent = 155,
-     .treeText = "Customize the Windows login and Security Dialog Titles"},
+     .treeText = "Customize the Windows login and Security Dialog Titles",
+     .page = Page::CheckFields,
+     .fields = kDialogTitle,
+     .note = kNote,
+     .gate = kGateNt},
     {.id = 164,
      .title = "Disable Passport Balloon Reminder",
      .description =
          "Windows XP keeps reminding each new user with a balloon to add a Passport to the account. When checked, "
          "the reminder counter of the current user is set to ten, so that Windows takes the matter as settled; "
          "unchecked, it begins at one again.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kPassport,
+     .note = kNote,
+     .gate = kGateXp},
     {.id = 165,
      .title = "Disable the Auto Login Shift Override Feature",
      .description =
          "On a computer that logs in automatically, holding down the Shift key during startup lets somebody log in "
-         "under another name. Check this to have the key ignored, so that the automatic login cannot be passed by."},
+         "under another name. Check this to have the key ignored, so that the automatic login cannot be passed by.",
+     .page = Page::Checks,
+     .boxes = kShiftOverride,
+     .note = kNote,
+     .gate = kGateNt},
     {.id = 166,
      .title = "Disable the Unread Mail Message on the Welcome Screen",
      .description =
          "The Welcome screen tells how many unread mail messages wait for an account. When checked, your account "
          "no longer shows that line; unchecked, messages of the last three days are counted again.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kUnreadMail,
+     .note = kNote,
+     .gate = kGateXp},
     {.id = 167,
      .title = "Enable Shutdown from Authentication Dialog Box",
      .description =
          "Decides whether the Shut Down button of the login dialog works before anybody has logged in. Handy for a "
          "workstation; leave it off where only logged-in users may switch the computer off.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kShutdown,
+     .note = kNote,
+     .gate = kGateNt},
     {.id = 168,
      .title = "Force the Use of Automatic Login",
      .description =
          "When the automatic login is set up, this option logs the same user in again right after every logoff. "
-         "Useful for public terminals that must never stay at the login screen."},
+         "Useful for public terminals that must never stay at the login screen.",
+     .page = Page::Checks,
+     .boxes = kForceAutoLogin,
+     .note = kNote,
+     .gate = kGate2000Xp},
     {.id = 169,
      .title = "Hide the Last User Name",
      .description =
          "The login dialog normally offers the name of the person who logged in last. Hide it so that an attacker "
          "has to guess the user name as well as the password; everybody then types both.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kLastUserBox,
+     .note = kNote,
+     .stamp = Stamp::ByRoutine,
+     .show = showLastUser,
+     .apply = applyLastUser},
     {.id = 170,
      .title = "Hide the welcome Screen",
      .description =
          "Removes the Welcome to Windows window, which offers a tour and registration, for all users. This applies "
          "to Windows 2000 and its Getting Started window, not to the Welcome screen of Windows XP.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::Checks,
+     .boxes = kWelcomeScreen,
+     .note = kNote,
+     .gate = kGate2000},
     {.id = 171,
      .title = "Legal Notice Dialog Box Before Login",
      .description =
          "Shows a message box with your title and text before each login, which every user must confirm. Companies "
          "use it to state who may use the computer. Leave both fields empty to remove the message.",
      .treeParent = 155,
-     .treeText = "Legal Notice Dialog Box Before login"},
+     .treeText = "Legal Notice Dialog Box Before login",
+     .page = Page::CheckFields,
+     .fields = kLegalNotice,
+     .note = kLegalNoticeNote},
     {.id = 172,
      .title = "Limit the Number of Automatic Logins",
      .description =
          "Sets how often Windows may still log in automatically. The number falls by one at each startup, and at "
          "zero the automatic login ends; this helps when an installation needs a fixed number of restarts. Enter 0 "
-         "or nothing to remove the limit."},
+         "or nothing to remove the limit.",
+     .page = Page::CheckFields,
+     .fields = kAutoLoginCount,
+     .note = kNote,
+     .gate = kGateNt,
+     .show = showAutoLoginCount,
+     .apply = applyAutoLoginCount},
     {.id = 173,
      .title = "Modify the Number of Cached Logins",
      .description =
          "Windows remembers the last domain users who logged in, so that they can log in again while no domain "
          "controller can be reached. Choose how many it remembers: 0 is the most secure, larger numbers suit "
          "portables that are shared.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::CheckCombos,
+     .choices = kCachedLogins,
+     .note = kNote,
+     .gate = kGateNt},
     {.id = 174,
      .title = "Show Administrator on the Welcom Screen",  // spelled so on purpose
      .description =
@@ -141,14 +476,22 @@ constexpr Tweak kTweaks[] = {
      .title = "Show Options on Login Dialog Box",
      .description =
          "Opens the login dialog with its lower part unfolded, where the domain is chosen and the computer is shut "
-         "down, instead of hiding that part behind the Options button."},
+         "down, instead of hiding that part behind the Options button.",
+     .page = Page::Checks,
+     .boxes = kLoginOptions,
+     .note = kNote,
+     .gate = kGateNt},
     {.id = 176,
      .title = "Use Active Authentication for Unlock and Screen Saver",
      .description =
          "When a locked computer is unlocked, Windows normally checks the password against the copy it has cached. "
          "Online Authentication asks the domain controller each time, so that a blocked account or a changed "
          "password takes effect at once.",
-     .treeParent = 155},
+     .treeParent = 155,
+     .page = Page::CheckCombos,
+     .choices = kAuthentication,
+     .note = kUnlockNote,
+     .gate = kGateNt},
 };
 
 }  // namespace

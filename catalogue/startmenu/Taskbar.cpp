@@ -1,9 +1,52 @@
 // The Taskbar tweaks: grouping of buttons, the notification area, balloon tips
 // and what the user may change with the mouse.
 #include "catalogue/Units.h"
+#include "catalogue/startmenu/StartMenuKeys.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
+
+#include <cstddef>
 
 namespace korvane {
 namespace {
+
+constexpr CheckBox kInactiveIcons[] = {
+    {.text = "Hide Inactive Tray Icons .",
+     .binding = DwordCheckState{.key = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer"},
+                                .name = "EnableAutoTray"}}};
+
+constexpr DwordNumber kGroupSizeNumber{
+    .key = kShellAdvanced, .name = "TaskbarGroupSize", .whenEmpty = WhenEmpty::Deletes};
+constexpr Field kGroupSize[] = {
+    {.label = "Taskbar Group Size (Current User):", .binding = kGroupSizeNumber},
+    {.label = "Taskbar Group Size (All Users):", .binding = underLocalMachine(kGroupSizeNumber)}};
+
+constexpr CheckBox kBalloonTips[] = {
+    {.text = "Disable Balloon Tips .", .binding = DwordFlagInverted(kShellAdvanced, "EnableBalloonTips")}};
+constexpr auto kContextMenus =
+    ScopePair("Disable Taskbar Context Menus (Current User).", "Disable Taskbar Context Menus (All Users).",
+              shellPolicy("NoTrayContextMenu"));
+constexpr auto kGrouping =
+    ScopePair("Group Similar Taskbar Buttons (Current User).", "Group Similar Taskbar Buttons (All Users).",
+              DwordCheckState{.key = kShellAdvanced, .name = "TaskbarGlomming"});
+constexpr CheckBox kLocked[] = {{.text = "Lock the Size and Position of the Taskbar.",
+                                 .binding = DwordFlagInverted(kShellAdvanced, "TaskbarSizeMove")}};
+// The alert's text names Me, which this gate refuses: meant so.
+constexpr Gate kGateXpNamingMe{kWinXP, 2021};
+
+// ---- 195: shown as a number, written as binary data, and in one fixed profile as well, whoever the user is: meant so.
+constexpr CheckBox kBannerBox[] = {
+    {.text = "Hide the arrow and\"Click here to start\"caption.", .binding = shellPolicy("NoStartBanner")}};
+constexpr std::byte kNoBanner[] = {std::byte{1}, std::byte{0}, std::byte{0}, std::byte{0}};
+constexpr KeyPath kFixedProfilePolicies{Root::Users,
+                                        "S-1-5-21-839522115-1547161642-725345543-1003\\Software\\Microsoft\\Windows\\"
+                                        "CurrentVersion\\Policies\\Explorer"};
+
+void applyStartBanner(PageContext& context) {
+    for (const KeyPath& key : {kShellPolicies, kFixedProfilePolicies}) {
+        applyCheck(context, IDC_CHECK1, BinaryFlag{.key = key, .name = "NoStartBanner", .checked = kNoBanner});
+    }
+}
 
 constexpr OverviewRow kTaskbarRows[] = {{188}, {189}, {191}, {192}, {193}, {194}};
 constexpr Overview kTaskbarOverview{.rows = kTaskbarRows};
@@ -22,14 +65,22 @@ constexpr Tweak kTweaks[] = {
          "Windows XP can tuck away the icons beside the clock that have not been used for a while. Check this to "
          "keep the notification area short, or clear it to see every icon all the time. It applies to the current "
          "user.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::Checks,
+     .boxes = kInactiveIcons,
+     .note = kShellNote,
+     .gate = kGateXp},
     {.id = 189,
      .title = "Change the Taskbar Group Size",
      .description =
          "When windows are grouped on the taskbar, this number says which ones: 0 groups the oldest windows first, "
          "1 the program with most windows first, 2 any program with two or more windows, 3 with three or more, and "
          "so on. An empty field restores the default.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::CheckFields,
+     .fields = kGroupSize,
+     .note = kShellNote,
+     .gate = kGateXp},
     {.id = 190,
      .title = "Clear Past Icons from the Try Notification Area",  // spelled so on purpose
      .description =
@@ -40,31 +91,50 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Stops the yellow balloons that pop up from the notification area with hints and warnings. Clear the box "
          "again if you miss messages about low disk space, the network or updates.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::Checks,
+     .boxes = kBalloonTips,
+     .note = kShellNote,
+     .gate = kGateXp},
     {.id = 192,
      .title = "Disable Taskbar Context Menus",
      .description =
          "Takes away the menus that appear on a right click on the taskbar, the Start button, the clock and the "
          "taskbar buttons. Use it to keep users from changing the taskbar or closing windows there.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::Checks,
+     .boxes = kContextMenus,
+     .note = kShellNote},
     {.id = 193,
      .title = "Group Similar Taskbar Bottons",  // spelled so on purpose
      .description =
          "Collects the windows of one program under a single taskbar button when space runs short. Turn it off if "
          "you prefer a separate button for every window; choose for the current user, for all users or both.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::Checks,
+     .boxes = kGrouping,
+     .note = kShellNote,
+     .gate = kGateXp},
     {.id = 194,
      .title = "Lock the Size and Position of the Taskbar",
      .description =
          "Fixes the taskbar where it is, so that it cannot be moved, resized or rearranged by accident with the "
          "mouse. The setting concerns the current user of Windows XP.",
-     .treeParent = 187},
+     .treeParent = 187,
+     .page = Page::Checks,
+     .boxes = kLocked,
+     .note = kShellNote,
+     .gate = kGateXpNamingMe},
     {.id = 195,
      .title = "Remove the Start Banner on the Taskbar",
      .description =
          "Removes the 'Click here to start' text and the arrow that slide along an empty taskbar after login. It "
          "is set for the current user, and for one other profile with a fixed identifier if this computer happens "
-         "to have it."},
+         "to have it.",
+     .page = Page::Checks,
+     .boxes = kBannerBox,
+     .note = kShellNote,
+     .apply = applyStartBanner},
 };
 
 }  // namespace

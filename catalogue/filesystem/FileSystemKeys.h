@@ -1,0 +1,18 @@
+// The keys that several of the file system's tweaks share, and their notes. The
+// notes differ in small ways: meant so.
+#pragma once
+
+#include "pages/Tweak.h"
+
+namespace korvane {
+
+constexpr KeyPath kFileSystemControl{Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\FileSystem"};
+constexpr KeyPath kFileSystemExplorer{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer"};
+constexpr KeyPath kFileSystemPolicies{Root::CurrentUser,
+                                      "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
+
+constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect.";
+constexpr std::string_view kNoteWithSmallYou =
+    "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
+
+}  // namespace korvane
