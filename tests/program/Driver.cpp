@@ -177,6 +177,24 @@ void Driver::selectItem(unsigned id) {
     SendMessageA(view, TVM_SELECTITEM, TVGN_CARET, first);
 }
 
+std::vector<std::string> Driver::readAboutBox(const std::vector<int>& controls) {
+    constexpr WPARAM kAboutItem = 16;
+    constexpr const char* kCaption = "About Korvane Manager";
+    PostMessageA(main_, WM_SYSCOMMAND, kAboutItem, 0);
+    HWND box = nullptr;
+    for (DWORD waited = 0; waited < kPatience && box == nullptr; waited += 10) {
+        Sleep(10);
+        box = findWindow(kCaption);
+    }
+    std::vector<std::string> texts;
+    for (const int id : controls) {
+        texts.push_back(windowText(GetDlgItem(box, id)));
+    }
+    SendMessageA(box, WM_COMMAND, IDOK, 0);
+    SendMessageA(main_, WM_NULL, 0, 0);
+    return box == nullptr || findWindow(kCaption) != nullptr ? std::vector<std::string>() : texts;
+}
+
 int Driver::visiblePages() {
     int count = 0;
     for (HWND page = nullptr; (page = FindWindowExA(main_, page, "#32770", nullptr)) != nullptr;) {

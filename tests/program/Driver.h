@@ -47,6 +47,10 @@ public:
     // Selects an item that has no row of its own: the first row stands in for it.
     void selectItem(unsigned id);
 
+    // Chooses the About entry of the system menu, waits for the box, and gives the texts of the controls asked for;
+    // then presses OK. Empty when no box came up, or when it stayed.
+    std::vector<std::string> readAboutBox(const std::vector<int>& controls);
+
     // Null when no page, or more than one, is visible.
     HWND visiblePage();
     int visiblePages();

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kHeader = 1006;
 constexpr int kOverviewList = 1007;
-constexpr UINT kAboutItem = 16;
 
 void forgetDates() {
     HKEY settings = nullptr;
@@ -45,13 +44,25 @@ TEST(Program, StartsUnselectedOnTheFirstOverviewAndDatesEveryRecord) {
     EXPECT_EQ(program.send(kOverviewList, LVM_GETITEMCOUNT), 3);
     EXPECT_EQ(program.cell(kOverviewList, 0, 0), "Disable Task Manager");
     EXPECT_EQ(program.cell(kOverviewList, 0, 1), today());
-    EXPECT_NE(GetMenuState(GetSystemMenu(program.window(), FALSE), kAboutItem, MF_BYCOMMAND), ~UINT{0});
 
     const auto dates = readFile(programFolder() + "\\DFile.mrc");
     ASSERT_TRUE(dates);
     EXPECT_EQ(std::count(dates->begin(), dates->end(), '\n'), 311);
     EXPECT_EQ(settingsFlag(), 1u);
 
+    EXPECT_TRUE(program.close());
+}
+
+TEST(Program, TellsAboutItself) {
+    Driver program("winxp");
+    ASSERT_TRUE(program.running());
+    const std::vector<std::string> texts = program.readAboutBox({1066, 1064});
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(texts[0], "Korvane Manager Manager Version 1.0.0.1");
+    EXPECT_EQ(
+        texts[1],
+        "The Korvane Manager  is the best utility for modifying system settings in the Microsoft Windows operating "
+        "systems.");
     EXPECT_TRUE(program.close());
 }
 
