@@ -1,9 +1,74 @@
 // The tweaks that stand in the tree below no category: folder locations, the
 // registered owner and the Alt+Tab window. The last number is kept in reserve.
+#include "catalogue/Notes.h"
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+constexpr KeyPath kUserFolders{Root::CurrentUser,
+                               "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders"};
+constexpr Field userFolder(std::string_view label, std::string_view name) {
+    return {.label = label,
+            .binding = StringValue{.key = kUserFolders,
+                                   .name = name,
+                                   .whenEmpty = WhenEmpty::WritesNothing,
+                                   .type = ValueType::ExpandSz,
+                                   .folding = Folding::ProfilePrefix},
+            .browse = true};
+}
+constexpr Field kFolders[] = {userFolder("Cookies:", "Cookies"), userFolder("Desktop:", "Desktop"),
+                              userFolder("Favorites:", "Favorites"), userFolder("Internet Cache:", "Cache"),
+                              userFolder("My Documents:", "Personal")};
+
+constexpr Field kSourcePath[] = {
+    {.label = "Source Directory:",
+     .binding = StringValue{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup"},
+                            .name = "SourcePath",
+                            .whenEmpty = WhenEmpty::WritesNothing},
+     .browse = true},
+};
+
+// ---- 308: only Windows 95, 98 and Me record the date: meant so.
+constexpr KeyPath kRegistration{.root = Root::LocalMachine,
+                                .path = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion",
+                                .otherOn = kWindows9x,
+                                .otherPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion"};
+constexpr Field kOwner[] = {
+    {.label = "Registered Owner:",
+     .binding = StringValue{.key = kRegistration, .name = "RegisteredOwner", .whenEmpty = WhenEmpty::WritesNothing}},
+    {.label = "Registered Organization:",
+     .binding =
+         StringValue{.key = kRegistration, .name = "RegisteredOrganization", .whenEmpty = WhenEmpty::WritesNothing}},
+};
+
+void applyOwner(PageContext& context) {
+    if (kWindows9x.contains(context.version)) {
+        context.host.stamp();
+    }
+    applyField(context, IDC_EDIT1, kOwner[0].binding);
+    applyField(context, IDC_EDIT2, kOwner[1].binding);
+}
+
+// ---- 309: the window is turned on whatever is chosen, and "-1" is written for a combo without a selection: meant so.
+constexpr KeyPath kDesktop{Root::CurrentUser, "Control Panel\\Desktop"};
+constexpr StringChoice coolSwitch(std::string_view name) {
+    return {.key = kDesktop, .name = name, .range = {.first = 0, .last = 99}, .initial = 0};
+}
+constexpr Choice kCoolSwitch[] = {
+    {.label = "Number of Columns:", .binding = coolSwitch("CoolSwitchColumns")},
+    {.label = "Number of Rows:", .binding = coolSwitch("CoolSwitchRows")},
+};
+
+void applyCoolSwitch(PageContext& context) {
+    if (const OpenedKey key = context.openForWriting(kDesktop)) {
+        writeText(context.platform.registry, key, "CoolSwitch", "1");
+    }
+    applyChoice(context, IDC_COMBO1, kCoolSwitch[0].binding);
+    applyChoice(context, IDC_COMBO2, kCoolSwitch[1].binding);
+}
 
 constexpr Tweak kTweaks[] = {
     {.id = 306,
@@ -12,25 +77,39 @@ constexpr Tweak kTweaks[] = {
          "Tells Windows where the current user keeps cookies, desktop, favorites, temporary Internet files and "
          "documents, for example on another drive. Existing files are not moved: copy them yourself. An empty "
          "field leaves its folder unchanged.",
-     .treeParent = kTreeRoot},
+     .treeParent = kTreeRoot,
+     .page = Page::PathFields,
+     .fields = kFolders},
     {.id = 307,
      .title = "Change the Location of Windows Installation Files",
      .description =
          "Windows asks for its CD in the place from which it was installed. Enter the folder or drive where the "
          "installation files are now, such as a copy on the hard disk; an empty field changes nothing.",
-     .treeParent = kTreeRoot},
+     .treeParent = kTreeRoot,
+     .page = Page::CheckFields,
+     .fields = kSourcePath,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 308,
      .title = "Change the Registered Owner and Organization",
      .description =
          "Changes the name and the company shown on the General page of System and in About boxes, and offered by "
          "many setup programs. Fields left empty keep what is stored.",
-     .treeParent = kTreeRoot},
+     .treeParent = kTreeRoot,
+     .page = Page::CheckFields,
+     .fields = kOwner,
+     .note = kSmallRestartOrLogOutNote,
+     .stamp = Stamp::ByRoutine,
+     .apply = applyOwner},
     {.id = 309,
      .title = "Configure CoolSwitch Application Swapping",
      .description =
          "Sets how many columns and rows of icons the window shows that appears when you switch between programs "
          "with Alt+Tab. Applying the page also turns that window on for the current user.",
-     .treeParent = kTreeRoot},
+     .treeParent = kTreeRoot,
+     .page = Page::CheckCombos,
+     .choices = kCoolSwitch,
+     .note = kSmallRestartOrLogOutNote,
+     .apply = applyCoolSwitch},
     {.id = 310,
      .title = "Reserved",
      .description = "This number is kept free for a later setting and does nothing yet."},

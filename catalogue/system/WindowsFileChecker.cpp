@@ -1,9 +1,87 @@
 // The Windows File Checker tweaks: when the protected system files are checked
 // and where their cached copies are kept.
+#include "catalogue/Notes.h"
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+// Every value stands in two places and both are written; the policy is the one that is shown.
+constexpr std::string_view kPolicyParent = "SOFTWARE\\Policies\\Microsoft\\Windows NT";
+constexpr std::string_view kPolicyName = "Windows File Protection";
+constexpr KeyPath kPolicy{Root::LocalMachine, {}, "SOFTWARE\\Policies\\Microsoft\\Windows NT\\Windows File Protection"};
+constexpr KeyPath kLogon{Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"};
+
+// ---- 253
+constexpr DwordCheckState progressIn(const KeyPath& place) { return {.key = place, .name = "SFCShowProgress"}; }
+constexpr CheckBox kProgress[] = {{.text = "Display SFC Progress Meter .", .binding = progressIn(kPolicy)}};
+
+void applyProgress(PageContext& context) {
+    applyCheck(context, IDC_CHECK1, progressIn(kPolicy));
+    applyCheck(context, IDC_CHECK1, progressIn(kLogon));
+}
+
+// ---- Removing a value
+
+// True when the policy key was opened, or made, and has no value left.
+bool removeFromPolicy(PageContext& context, std::string_view name) {
+    Registry& registry = context.platform.registry;
+    const OpenedKey policy = context.openForWriting(kPolicy);
+    if (!policy) {
+        return false;
+    }
+    ignoreFailure(registry.deleteValue(policy.handle(), {}, name));
+    std::string left;
+    return registry.enumerateValue(policy.handle(), 0, left) == Status::NoMoreItems;
+}
+
+// A policy key that has become empty goes as a whole, even with subkeys: meant so.
+void removeEverywhere(PageContext& context, std::string_view name) {
+    Registry& registry = context.platform.registry;
+    if (removeFromPolicy(context, name)) {
+        if (const OpenedKey parent = openKey(registry, kPolicy.root, kPolicyParent)) {
+            ignoreFailure(registry.deleteTree(parent.handle(), kPolicyName));
+        }
+    }
+    if (const OpenedKey logon = context.openForWriting(kLogon)) {
+        ignoreFailure(registry.deleteValue(logon.handle(), {}, name));
+    }
+}
+
+// ---- 254
+constexpr NumberEntry kScanModes[] = {{"Disabled", 0}, {"Scan every boot", 1}, {"Scan once", 2}};
+constexpr std::string_view kScan = "SFCScan";
+constexpr DwordChoice scanIn(const KeyPath& place) {
+    return {.key = place, .name = kScan, .entries = kScanModes, .initial = 0};
+}
+constexpr Choice kScanMode[] = {{.label = "SFC scan mode:", .binding = scanIn(kPolicy)}};
+
+void applyScanMode(PageContext& context) {
+    if (context.page.comboSelection(IDC_COMBO1) == kNoSelection) {
+        removeEverywhere(context, kScan);
+        return;
+    }
+    applyChoice(context, IDC_COMBO1, scanIn(kPolicy));
+    applyChoice(context, IDC_COMBO1, scanIn(kLogon));
+}
+
+// ---- 255: stored as a plain text, although it holds a variable: meant so.
+constexpr std::string_view kCacheFolder = "SFCDllCacheDir";
+constexpr Field kCache[] = {
+    {.label = "The Directory to store cached SFC files:",
+     .binding = StringValue{.key = kPolicy, .name = kCacheFolder, .folding = Folding::WindowsFolder, .also = kLogon},
+     .browse = true},
+};
+
+void applyCacheFolder(PageContext& context) {
+    if (context.page.text(IDC_EDIT1).empty()) {
+        removeEverywhere(context, kCacheFolder);
+    } else {
+        applyField(context, IDC_EDIT1, kCache[0].binding);
+    }
+}
 
 constexpr OverviewRow kWindowsFileCheckerRows[] = {{253}, {254}, {255}};
 constexpr Overview kWindowsFileCheckerOverview{.rows = kWindowsFileCheckerRows};
@@ -32,19 +110,34 @@ constexpr Tweak kTweaks[] = {
      .description =
          "Shows a progress window while the system file checker scans the protected files, instead of working "
          "unseen. The choice is stored as a policy and in the settings of the logon process, for all users.",
-     .treeParent = 250},
+     .treeParent = 250,
+     .page = Page::Checks,
+     .boxes = kProgress,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate2000Xp,
+     .apply = applyProgress},
     {.id = 254,
      .title = "Manage Windows File Protection Scans",
      .description =
          "Decides whether Windows scans its protected system files at startup: never, at every boot or once at the "
          "next boot. A scan finds replaced files but makes the startup much longer.",
-     .treeParent = 250},
+     .treeParent = 250,
+     .page = Page::CheckCombos,
+     .choices = kScanMode,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate2000Xp,
+     .apply = applyScanMode},
     {.id = 255,
      .title = "Specify the Directory to Store Cached SFC Files",
      .description =
          "Windows keeps spare copies of system files in its dllcache folder. Name another folder, perhaps on a "
          "larger drive, to have them kept there; an empty field goes back to the default.",
-     .treeParent = 250},
+     .treeParent = 250,
+     .page = Page::CheckFields,
+     .fields = kCache,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate2000Xp,
+     .apply = applyCacheFolder},
 };
 
 }  // namespace

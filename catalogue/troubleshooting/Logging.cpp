@@ -1,9 +1,48 @@
 // The Logging tweaks: who may read the event logs, and what Windows records to
 // help in finding faults. Not in the tree.
+#include "catalogue/Notes.h"
 #include "catalogue/Units.h"
+#include "catalogue/accessories/InstallerLogging.h"
 
 namespace korvane {
 namespace {
+
+// The blank before the full stops is meant so.
+constexpr DwordCheckState guestAccess(std::string_view log) {
+    return {.key = {Root::LocalMachine, log}, .name = "RestrictGuestAccess"};
+}
+constexpr CheckBox kEventLogs[] = {
+    {.text = "Restrict Guest Access to the Application Log .",
+     .binding = guestAccess("SYSTEM\\CurrentControlSet\\Services\\EventLog\\Application")},
+    {.text = "Restrict Guest Access to the Security Log .",
+     .binding = guestAccess("SYSTEM\\CurrentControlSet\\Services\\EventLog\\Security")},
+    {.text = "Restrict Guest Access to the System Log .",
+     .binding = guestAccess("SYSTEM\\CurrentControlSet\\Services\\EventLog\\System")},
+};
+
+constexpr KeyPath kPolicies{Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies", "System"};
+constexpr CheckBox kVerboseStatus[] = {
+    {.text = "Show Verbose Security Status Messages .", .binding = PolicyDwordFlag(kPolicies, "VerboseStatus")}};
+
+// The low word is the level, the high word says where the messages go.
+constexpr NumberEntry kLevels[] = {{"None", 0},
+                                   {"Normal, to the Log File (Default)", 0x10001},
+                                   {"Verbose, to the Log File", 0x10002},
+                                   {"Verbose, to the Log File and the Debugger", 0x30002}};
+constexpr Choice kDebugLevel[] = {
+    {.label = "Debug Logging Level:",
+     .binding = DwordChoice{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"},
+                            .name = "UserEnvDebugLevel",
+                            .entries = kLevels,
+                            .initial = 1,
+                            .whenNone = WhenNone::Deletes}},
+};
+
+constexpr CheckBox kDiagnostics[] = {
+    {.text = "Enable User Environment Event Logging .",
+     .binding = DwordFlag{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", "Diagnostics"},
+                          .name = "RunDiagnosticLoggingGlobal"}},
+};
 
 constexpr OverviewRow kLoggingRows[] = {{283}, {284}, {285}, {286}, {287}};
 constexpr Overview kLoggingOverview{.rows = kLoggingRows};
@@ -24,29 +63,50 @@ constexpr Tweak kTweaks[] = {
      .title = "Restrict Access to the Event Logs",
      .description =
          "Guests and anonymous users can read event logs unless they are kept out. Check the application, security "
-         "and system log separately to restrict their access, because the entries tell a lot about the computer."},
+         "and system log separately to restrict their access, because the entries tell a lot about the computer.",
+     .page = Page::Checks,
+     .boxes = kEventLogs,
+     .note = kRestartWindowsNote,
+     .gate = kGateNt},
     {.id = 284,
      .title = "Show Verbose Security Status Messages",
      .description =
          "Shows in detail what Windows is doing while it starts, shuts down and logs users in or out. This helps "
-         "to find the step at which a slow or hanging computer stops."},
+         "to find the step at which a slow or hanging computer stops.",
+     .page = Page::Checks,
+     .boxes = kVerboseStatus,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate2000Xp},
     {.id = 285,
      .title = "User Environment Debug Logging",
      .description =
          "Records how user profiles and policies are loaded in the file Userenv.log of the Windows debug folder. "
          "Raise the level to verbose when logins are slow or profiles fail, and set it back afterwards, for the "
-         "log grows."},
+         "log grows.",
+     .page = Page::CheckCombos,
+     .choices = kDebugLevel,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate2000Xp},
     {.id = 286,
      .title = "User Environment Event Logging",
      .description =
          "Writes detailed events about the processing of user profiles and Group Policy to the application event "
-         "log. Turn it on to trace a policy that does not arrive, and off again so that the log does not fill up."},
+         "log. Turn it on to trace a policy that does not arrive, and off again so that the log does not fill up.",
+     .page = Page::Checks,
+     .boxes = kDiagnostics,
+     .note = kRestartWindowsNote,
+     .gate = kGate2000Xp},
     {.id = 287,
-     .title = "Windows Installer Logging",
+     .title = "Windows Installer Logging",  // same title as record 41, on purpose
      .description =
          "Makes Windows Installer log every installation with all options listed below except + and !, to find out "
          "why a setup fails. Caution: applying it unchecked also removes all other local machine policies that are "
-         "mirrored in the settings of the current user."},
+         "mirrored in the settings of the current user.",
+     .page = Page::Category,
+     .boxes = kInstallerLoggingBox,
+     .table = &kInstallerLoggingLetters,
+     .show = showInstallerLogging,
+     .apply = applyInstallerLogging},
 };
 
 }  // namespace

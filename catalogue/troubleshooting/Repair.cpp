@@ -1,9 +1,46 @@
 // The Repair tweaks: damaged shell and application settings and what puts them
 // right.
+#include "catalogue/Notes.h"
 #include "catalogue/Units.h"
+#include "pages/PageContext.h"
+#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
+
+// Two blanks before "in": meant so.
+constexpr CheckBox kNewCommand[] = {
+    {.text = "Add the New command to the right-click context menu  in Windows Explorer .",
+     .binding = SubkeyFlag{.parent = {Root::ClassesRoot, "Directory\\Background\\shellex\\ContextMenuHandlers"},
+                           .name = "New",
+                           .text = "{D969A300-E7FF-11d0-A93B-00A0C90F2719}",
+                           .shownByText = true}},
+};
+
+constexpr CheckBox kStyleSheets[] = {
+    {.text = "Repair internet explorer printing errors .",
+     .binding = StringFlag{.key = {Root::CurrentUser, "Software\\Microsoft\\Internet Explorer\\Main"},
+                           .name = "Use StyleSheets",
+                           .checked = "Yes",
+                           .clearedDeletes = true,
+                           .compare = Compare::IgnoreCase}},
+};
+
+// ---- 292: the box shows whether a subkey is absent, but what goes is a value of that name: meant so.
+constexpr CheckBox kShortcutBar[] = {{.text = "Repair office shortcut bar."}};
+constexpr KeyPath kOffice{Root::CurrentUser, "Software\\Microsoft\\Office\\10.0"};
+constexpr KeyPath kShortcutBarKey{Root::CurrentUser, "Software\\Microsoft\\Office\\10.0\\Shortcut Bar"};
+
+void showShortcutBar(PageContext& context) { context.page.setCheck(IDC_CHECK1, context.open(kShortcutBarKey) ? 0 : 1); }
+
+void applyShortcutBar(PageContext& context) {
+    if (!context.checked(IDC_CHECK1)) {
+        return;
+    }
+    if (const OpenedKey office = context.openForWriting(kOffice)) {
+        ignoreFailure(context.platform.registry.deleteValue(office.handle(), {}, "Shortcut Bar"));
+    }
+}
 
 constexpr OverviewRow kRepairRows[] = {{289}, {290}, {292}};
 constexpr Overview kRepairOverview{.rows = kRepairRows};
@@ -21,13 +58,19 @@ constexpr Tweak kTweaks[] = {
      .description =
          "If New is missing from the menu that opens on a right click into a folder or on the desktop, checking "
          "this registers it again. Unchecking removes the New menu.",
-     .treeParent = 288},
+     .treeParent = 288,
+     .page = Page::Checks,
+     .boxes = kNewCommand,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 290,
      .title = "Repair Internet Explorer Printing Errors",
      .description =
          "Internet Explorer prints with the help of style sheets and shows errors or blank pages if their use is "
          "turned off. When checked, it is turned on for the current user; unchecked, the setting is deleted.",
-     .treeParent = 288},
+     .treeParent = 288,
+     .page = Page::Checks,
+     .boxes = kStyleSheets,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 291,
      .title = "Repair the Icon Cache",
      .description =
@@ -39,7 +82,12 @@ constexpr Tweak kTweaks[] = {
          "For a shortcut bar of Office XP that fails to start: deletes the value Shortcut Bar from the Office 10.0 "
          "settings of the current user. Settings kept in a key of that name stay, and as long as it exists the box "
          "is shown unchecked.",
-     .treeParent = 288},
+     .treeParent = 288,
+     .page = Page::Checks,
+     .boxes = kShortcutBar,
+     .note = "Note:\n\tRestart any office applications.",
+     .show = showShortcutBar,
+     .apply = applyShortcutBar},
     {.id = 293,
      .title = "Repair the Registry Editor",
      .description =

@@ -1,9 +1,98 @@
 // The top of Troubleshooting and its single tweaks: start-up state and warnings,
 // Remote Assistance, AutoRun of CDs and error reporting.
+#include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
 namespace korvane {
 namespace {
+
+constexpr Field kSafeModeBackground[] = {
+    {.label = "The Safe Mode Background File:",
+     .binding =
+         StringValue{.key = {Root::CurrentUser, "Software\\Microsoft\\Internet Explorer\\Desktop\\SafeMode\\General"},
+                     .name = "Wallpaper",
+                     .type = ValueType::ExpandSz,
+                     .withoutQuotes = true},
+     .browse = true},
+};
+
+// An empty text stands for no sound.
+constexpr Field kMailSound[] = {
+    {.label = "The Sound for New Mail:",
+     .binding = StringValue{.key = {Root::CurrentUser, "AppEvents\\Schemes\\Apps\\.Default\\MailBeep\\.Current"},
+                            .name = "",
+                            .whenEmpty = WhenEmpty::WritesEmpty,
+                            .withoutQuotes = true},
+     .browse = true},
+};
+
+// Other bits may be set in the stored number; then the box stays cleared and they are lost: meant so.
+constexpr StringFlag numLockIn(const KeyPath& key) {
+    return {.key = key, .name = "InitialKeyboardIndicators", .checked = "2"};
+}
+constexpr CheckBox kNumLock[] = {
+    {.text = "Turn NumLock on at Startup (Current User).",
+     .binding = numLockIn({Root::CurrentUser, "Control Panel\\Keyboard"})},
+    {.text = "Turn NumLock on at Startup (Before Login).",
+     .binding = numLockIn({Root::Users, ".DEFAULT\\Control Panel\\Keyboard"})},
+};
+
+// The blank before the full stops is meant so.
+constexpr CheckBox kStepping[] = {
+    {.text = "Enable Windows Update Stepping Mode .",
+     .binding = StringFlag{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Active Setup"},
+                           .name = "SteppingMode",
+                           .checked = "Y",
+                           .cleared = "N",
+                           .compare = Compare::IgnoreCase}},
+};
+constexpr CheckBox kWarnings[] = {
+    {.text = "Disable Warnings on Startup .",
+     .binding = DwordCheckState{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Windows"},
+                                .name = "NoPopupsOnBoot"}},
+};
+constexpr CheckBox kRemoteAssistance[] = {
+    {.text = "Enable Remote Assistance .",
+     .binding = DwordCheckState{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Terminal Server"},
+                                .name = "fAllowToGetHelp"}},
+};
+constexpr CheckBox kAthlon[] = {
+    {.text = "Fix Problem with Athlon Hanging AGP Programs .",
+     .binding = DwordFlag{.key = {Root::LocalMachine,
+                                  "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management"},
+                          .name = "LargePageMinimum",
+                          .checked = 0xFFFFFFFF,
+                          .clearedDeletes = true}},
+};
+
+// ---- 303: a set bit keeps a kind of drive from running; this one stands for CDs. Without the value Windows keeps the
+// kinds of 0x95, and CDs run.
+constexpr CheckBox kAutoRun[] = {
+    {.text = "Run Inserted CD-ROMs Automatically .",
+     .binding = MaskBit{.key = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"},
+                        .name = "NoDriveTypeAutoRun",
+                        .byte = 0,
+                        .bit = 0x20,
+                        .checkedWhenClear = true,
+                        .whenMissing = 0x95,
+                        .checkedWhenMissing = true}},
+};
+
+constexpr CheckBox reporting(std::string_view text, std::string_view name) {
+    return {.text = text,
+            .binding = DwordCheckState{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\PCHealth\\ErrorReporting"},
+                                       .name = name}};
+}
+constexpr CheckBox kErrorReporting[] = {
+    reporting("Enable Error Reporting .", "DoReport"),
+    reporting("Notify the User when Errors Occur .", "ShowUI"),
+    reporting("Report Windows Operating System Errors .", "IncludeKernelFaults"),
+    reporting("Report Errors in All Programs .", "AllOrNone"),
+    reporting("Report Errors in Microsoft Programs .", "IncludeMicrosoftApps"),
+    reporting("Report Errors in Windows Components .", "IncludeWindowsApps"),
+    reporting("Report Unplanned Shutdowns .", "IncludeShutdownErrs"),
+    reporting("Force Queue Mode for Program Errors .", "ForceQueueMode"),
+};
 
 constexpr OverviewRow kTroubleshootingRows[] = {{295}, {296}, {297}, {299}, {300}, {301}, {303}, {305}};
 constexpr Overview kTroubleshootingOverview{.rows = kTroubleshootingRows};
@@ -22,20 +111,31 @@ constexpr Tweak kTweaks[] = {
          "When Active Desktop runs into an error it shows a white recovery page. This sets the file shown instead, "
          "stored as the value Wallpaper of its safe mode settings, for the current user; an empty field removes "
          "the value.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::CheckFields,
+     .fields = kSafeModeBackground,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGate98Me2000Xp},
     {.id = 296,
      .title = "Change the Default Mailbox Sound Setting",
      .description =
          "Sets the wave file played for the sound event MailBeep (New Mail Notification) in the current sound "
          "scheme of the current user. Not every mail program uses this event; an empty field means that no sound "
          "is played.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::CheckFields,
+     .fields = kMailSound,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 297,
      .title = "Change the Default NumLock State",
      .description =
          "Decides whether NumLock is on after the current user has logged in and, separately, at the login screen. "
          "People who type numbers in their password on the keypad want both.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kNumLock,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGateNt},
     {.id = 298,
      .title = "Change the Icon Cache Size",
      .description =
@@ -47,31 +147,48 @@ constexpr Tweak kTweaks[] = {
          "Makes Windows Update go forward step by step, for finding the point at which an update fails. It sets "
          "the Active Setup value SteppingMode to Y when checked and to N when unchecked; not every version of "
          "Windows reads this value.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kStepping,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 300,
      .title = "Disable Warnings on Startup",
      .description =
          "Suppresses the message boxes that appear at startup, for example when a driver or service could not be "
          "started. The failures are still found in the event log; useful where nobody sits in front of the screen.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kWarnings,
+     .note = kRestartWindowsNote,
+     .gate = kGateNt},
     {.id = 301,
      .title = "Enable Remote Assistance",
-     .description =
-         "Lets users of this Windows XP computer invite somebody to see their screen and help them over the "
-         "network. Clear the box if nobody shall be asked for help in this way.",
-     .treeParent = 273},
+     .description = "Lets users of this Windows XP computer invite somebody to see their screen and help them over the "
+                    "network. Clear the box if nobody shall be asked for help in this way.",
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kRemoteAssistance,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGateXp},
     {.id = 302,
      .title = "Fix Problem with Athlon Hanging AGP Programs",
      .description =
          "On some AMD Athlon computers, programs that use the AGP graphics port hang because of the way large "
-         "memory pages are handled. Checking this keeps Windows from using them; unchecking removes the setting."},
+         "memory pages are handled. Checking this keeps Windows from using them; unchecking removes the setting.",
+     .page = Page::Checks,
+     .boxes = kAthlon,
+     .note = kRestartWindowsNote,
+     .gate = kGate2000Xp},
     {.id = 303,
      .title = "Run Inserted CD-ROMs Automatically",
      .description =
          "Decides whether a CD starts by itself when inserted, for the current user. It sets or clears only the "
          "CD-ROM bit (20 hexadecimal) of the value NoDriveTypeAutoRun; other drive types keep their setting. Turn "
          "AutoRun off to be safe from unwanted programs.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kAutoRun,
+     .note = kSmallRestartOrLogOutNote},
     {.id = 304,
      .title = "Show Computer Manufacturer and Support Information",
      .description =
@@ -82,7 +199,11 @@ constexpr Tweak kTweaks[] = {
      .description =
          "When a program or Windows fails, Windows XP offers to send a report to Microsoft. Choose whether reports "
          "are made at all, whether the user is asked, and for which programs, components and shutdowns.",
-     .treeParent = 273},
+     .treeParent = 273,
+     .page = Page::Checks,
+     .boxes = kErrorReporting,
+     .note = kSmallRestartOrLogOutNote,
+     .gate = kGateXp},
 };
 
 }  // namespace
