@@ -52,3 +52,9 @@ if(NOT WIN32)
         target_link_libraries(${name} PRIVATE korvane_warnings korvane_core)
     endforeach()
 endif()
+
+# For the picture tour: selects rows in the running program.
+if(TARGET KorvaneManager)
+    add_executable(select_row EXCLUDE_FROM_ALL tools/tour/SelectRow.cpp)
+    target_link_libraries(select_row PRIVATE korvane_warnings)
+endif()

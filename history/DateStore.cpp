@@ -2,6 +2,7 @@
 #include "history/DateStore.h"
 
 #include "platform/RegistryAccess.h"
+#include "platform/ReplaceAll.h"
 
 namespace korvane {
 namespace {
@@ -13,12 +14,6 @@ constexpr std::string_view kLanguage = "Language";
 constexpr std::string_view kDefaultLanguage{"English\0", 8};    // written with its terminating zero
 
 std::string keyOf(std::string_view title) { return "korvane(\"" + std::string(title) + "\""; }
-
-void replaceRecords(std::string& text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
 
 }  // namespace
 
@@ -139,7 +134,7 @@ bool DateStore::replaceRecord(std::string& text, std::string_view title) {
     }
     const std::size_t end = text.find('\r', start);
     const std::string old = text.substr(start, end == std::string::npos ? end : end - start);
-    replaceRecords(text, old, record(title));
+    replaceAll(text, old, record(title));
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include "pages/OsVersion.h"
 #include "platform/RegistryAccess.h"
+#include "platform/ReplaceAll.h"
 #include "platform/DialogControls.h"
 
 #include <cstdint>
@@ -279,8 +280,6 @@ std::string formatColour(Colour colour);
 // The decimal number that a text begins with, as the C library's atoi reads it (white space, sign, digits; 0 without
 // digits; out of range saturates).
 int decimalNumber(std::string_view text);
-// Every occurrence, left to right; an empty `from` replaces nothing.
-void replaceAll(std::string& text, std::string_view from, std::string_view to);
 // The user's profile folder with its separator; empty where Windows has no profiles.
 std::string profilePrefix(const PageContext& context);
 bool equalIgnoringCase(std::string_view left, std::string_view right);

@@ -6,7 +6,11 @@ namespace korvane {
 bool CDialog::OnInitDialog(DialogControls& controls) {
     controls_ = &controls;
     DoDataExchange();
-    return OnInitDialog();
+    const bool alive = OnInitDialog();
+    if (!alive) {
+        controls_ = nullptr;  // a dialog that has ended itself must not be shown again
+    }
+    return alive;
 }
 
 bool CDialog::applySkin(std::span<const SkinElement> elements) {

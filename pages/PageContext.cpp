@@ -3,14 +3,15 @@
 
 namespace korvane {
 
-void ListColumns::clear(DialogControls& page, int list) {
+void ListColumns::clear() {
     for (; count_ > 0; --count_) {
-        page.deleteColumn(list, 0);
+        page_->deleteColumn(list_, 0);
     }
-    count_ = 0;
 }
 
 void ListColumns::insert(DialogControls& page, int list, std::string_view heading, int width) {
+    page_ = &page;
+    list_ = list;
     page.insertColumn(list, count_, heading, width);
     ++count_;
 }

@@ -12,14 +12,16 @@
 namespace korvane {
 
 // How many columns the routines have inserted into the lists of the category and check-list pages since they were last
-// cleared. One count serves both lists: the count, not the control, says how many columns to delete.
+// cleared. One count serves both lists: the list that got columns last is the one that has them.
 class ListColumns {
 public:
-    void clear(DialogControls& page, int list);
+    void clear();
     void insert(DialogControls& page, int list, std::string_view heading, int width);
 
 private:
     int count_ = 0;
+    DialogControls* page_ = nullptr;
+    int list_ = 0;
 };
 
 // The main window's services for its pages.

@@ -30,15 +30,6 @@ int decimalNumber(std::string_view text) {
     return static_cast<int>(negative ? -number : std::min(number, kLimit - 1));
 }
 
-void replaceAll(std::string& text, std::string_view from, std::string_view to) {
-    if (from.empty()) {
-        return;
-    }
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 bool equalIgnoringCase(std::string_view left, std::string_view right) {
     return std::ranges::equal(left, right, {}, lower, lower);
 }

@@ -95,8 +95,8 @@ struct Tweak {
     int id;
     std::string_view title;
     std::string_view description;
-    int image = kTweakImage;       // index into the tree's images; every category has one of its own
-    int treeParent = kNoTreeRow;   // the ItemId of the row above
+    int image = kTweakImage;         // index into the tree's images; every category has one of its own
+    int treeParent = kNoTreeRow;     // the ItemId of the row above
     std::string_view treeText = {};  // the row's text where it differs from the title
     Page page = Page::None;
     std::span<const CheckBox> boxes = {};
@@ -114,6 +114,10 @@ struct Tweak {
     // the common writes (gate, date and required fields still come first).
     Routine show = nullptr;
     Routine apply = nullptr;
+    // For the documentation, each one line in which keys, names and data stand between grave accents: what those
+    // routines read and write beyond the bindings, and where Windows' side of the tweak is described.
+    std::string_view registry = {};
+    std::string_view source = {};
 
     constexpr bool isCategory() const { return image != kTweakImage; }
     constexpr bool hasShow() const { return page != Page::None; }

@@ -63,7 +63,7 @@ void resetColour(PageContext& context) {
 void startList(PageContext& context, int list, std::span<const TableColumn> columns) {
     ListColumns& count = context.host.listColumns();
     context.page.deleteRows(list);
-    count.clear(context.page, list);
+    count.clear();
     int index = 0;
     for (const TableColumn& column : columns) {
         count.insert(context.page, list, context.translatedCell(list, "c", index++, column.heading), column.width);

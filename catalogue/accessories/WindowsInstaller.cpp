@@ -78,7 +78,14 @@ constexpr Tweak kTweaks[] = {
      .choices = kInstaller,
      .note = kRestartOrLogOutNote,
      .show = showDisableInstaller,
-     .apply = applyDisableInstaller},
+     .apply = applyDisableInstaller,
+     .registry =
+         "The entries store 0, 1 and 2 as `DisableMSI` (REG_DWORD) in "
+         "`HKLM\\Software\\Policies\\Microsoft\\Windows\\Installer` (opened) and in the current user's copy of that "
+         "policy, `HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy "
+         "Objects\\LocalMachine\\Software\\Policies\\Microsoft\\Windows\\Installer` (created from `Software` on). The "
+         "copy is shown, and only while both have the value. Without a choice the value is deleted from the first; of "
+         "the copy, each key from `Installer` up to `Software` is deleted if it has no subkeys."},
     {.id = 40,
      .title = "Remote Administration of Windows Installer",
      .description =
@@ -100,7 +107,9 @@ constexpr Tweak kTweaks[] = {
      .boxes = kInstallerLoggingBox,
      .table = &kInstallerLoggingLetters,
      .show = showInstallerLogging,
-     .apply = applyInstallerLogging},
+     .apply = applyInstallerLogging,
+     .registry = kInstallerLoggingRegistry,
+     .source = kInstallerLoggingSource},
     {.id = 42,
      .title = "Allow Uninstall of Windows Components",
      .description =

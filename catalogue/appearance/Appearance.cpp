@@ -81,6 +81,10 @@ constexpr CheckBox kCompressedFiles[] = {{.text = "Show Compressed Files in an A
 constexpr OverviewRow kAppearanceRows[] = {{68}, {71}, {72}, {75}, {76}};
 constexpr Overview kAppearanceOverview{.rows = kAppearanceRows};
 
+constexpr std::string_view kAlternateColorSource =
+    "Explorer's option to show encrypted or compressed NTFS files in color, and its color values (from general "
+    "knowledge)";
+
 constexpr Tweak kTweaks[] = {
     {.id = 51,
      .title = "Appearance",
@@ -98,7 +102,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .colour = &kLinkColour,
      .note = kRestartOrLogOutNote,
-     .gate = kGate98Me2000Xp},
+     .gate = kGate98Me2000Xp,
+     .source = "System color COLOR_HOTLIGHT (hot-tracked item), whose value stands beside the other colors of `Control "
+               "Panel\\Colors` (from general knowledge)"},
     {.id = 69,
      .title = "Change the Color of Compressed Files and Folders",
      .description =
@@ -108,7 +114,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .colour = &kCompressedColour,
      .note = kRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kAlternateColorSource},
     {.id = 70,
      .title = "Change the Color of Encrypted Files",
      .description =
@@ -117,7 +124,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .colour = &kEncryptedColour,
      .note = kRestartOrLogOutNote,
-     .gate = kGateNtNamingXp},
+     .gate = kGateNtNamingXp,
+     .source = kAlternateColorSource},
     {.id = 71,
      .title = "Change the Position of the Desktop Wallpaper",
      .description =
@@ -127,7 +135,8 @@ constexpr Tweak kTweaks[] = {
      .treeParent = 51,
      .page = Page::CheckFields,
      .fields = kWallpaperPosition,
-     .note = kRestartOrLogOutNote},
+     .note = kRestartOrLogOutNote,
+     .source = "Windows 2000 registry reference, `Control Panel\\Desktop` (from general knowledge)"},
     {.id = 72,
      .title = "Change the Thumbnail Image Settings",
      .description =
@@ -137,14 +146,16 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .choices = kThumbnails,
      .note = kRestartOrLogOutNote,
-     .gate = kGateXp},
+     .gate = kGateXp,
+     .source = "Thumbnail values of the Windows XP shell (from general knowledge)"},
     {.id = 73,
      .title = "Control Whether Windows Performs Smooth Scrolling",
      .description = "Lets lists and windows glide when they are scrolled instead of jumping. It is stored as the value "
                     "SmoothScroll of the current user's desktop settings; turn it off where scrolling feels slow.",
      .page = Page::Checks,
      .boxes = kSmoothScrolling,
-     .note = kRestartOrLogOutNote},
+     .note = kRestartOrLogOutNote,
+     .source = "Smooth scrolling of the common controls (from general knowledge)"},
     {.id = 74,
      .title = "DirectDraw and Direct3D Settings",
      .description =
@@ -153,7 +164,9 @@ constexpr Tweak kTweaks[] = {
          "the Direct3D drivers; games become much slower.",
      .page = Page::Checks,
      .boxes = kAcceleration,
-     .note = kRestartOrLogOutNote},
+     .note = kRestartOrLogOutNote,
+     .source =
+         "The values behind the three acceleration switches of the DirectX diagnostic tool (from general knowledge)"},
     {.id = 75,
      .title = "Disable Image Preview",
      .description =
@@ -163,7 +176,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kImagePreview,
      .note = kRestartOrLogOutNote,
-     .gate = kGateXp},
+     .gate = kGateXp,
+     .source = "The Windows XP shell's context menu handler for pictures (from general knowledge)"},
     {.id = 76,
      .title = "Open and Save Dialog Box Customization",
      .description =
@@ -174,7 +188,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kOpenAndSave,
      .note = kRestartOrLogOutNote,
-     .gate = kGate2000MeXp},
+     .gate = kGate2000MeXp,
+     .source = "Group Policy, Windows Explorer, Common Open File Dialog; three policies, Windows 2000 and later (from "
+               "general knowledge)"},
     {.id = 77,
      .title = "Show Compressed Files in an Alternate Color",
      .description =
@@ -183,7 +199,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kCompressedFiles,
      .note = kRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kAlternateColorSource},
 };
 
 }  // namespace

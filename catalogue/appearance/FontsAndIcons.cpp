@@ -151,7 +151,9 @@ constexpr Tweak kTweaks[] = {
      .choices = kFontSmoothing,
      .note = kRestartOrLogOutNote,
      .stamp = Stamp::ByRoutine,
-     .apply = applyFontSmoothing},
+     .apply = applyFontSmoothing,
+     .registry = "An entry is written only where it fits the running Windows: the second on Windows 95, 98 and Me, the "
+                 "third on Windows NT 4, 2000 and XP."},
     {.id = 67,
      .title = "Wrap Icon Titles",
      .description =

@@ -226,7 +226,10 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckList,
      .table = &kIconList,
      .show = showIconVisibility,
-     .apply = applyIconVisibility},
+     .apply = applyIconVisibility,
+     .registry = "A row stands for a subkey, named by the folder's class identifier, of "
+                 "`HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace` (opened). A "
+                 "checked row has it and creates it; a cleared row deletes it unless it has subkeys."},
     {.id = 81,
      .title = "Change the Application Focus Settings",
      .description =
@@ -245,7 +248,10 @@ constexpr Tweak kTweaks[] = {
      .note = kRestartOrLogOutNote,
      .gate = kGateNt,
      .show = showGracePeriod,
-     .apply = applyGracePeriod},
+     .apply = applyGracePeriod,
+     .registry = "`ScreenSaverGracePeriod` in `HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon` "
+                 "(created). Checked writes the number of seconds as REG_SZ, or as REG_DWORD if that fails, and `-1` "
+                 "without a choice; cleared deletes the value. Either type is shown."},
     {.id = 83,
      .title = "Choose the First Desktop Icon",
      .description =
@@ -329,7 +335,12 @@ constexpr Tweak kTweaks[] = {
      .boxes = kRecycleBinBoxes,
      .note = kNoteWithoutStop,
      .show = showRecycleBin,
-     .apply = applyRecycleBin},
+     .apply = applyRecycleBin,
+     .registry = "`Attributes` (REG_BINARY, four bytes) and `CallForAttributes` (REG_DWORD) in "
+                 "`HKCR\\CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\ShellFolder` (created). Every apply writes "
+                 "`Attributes` as `40 01 00 20`, its first byte larger by `10` if renaming and by `20` if deleting is "
+                 "allowed (hexadecimal), and `CallForAttributes` as 0. The boxes are shown from a first byte of `50`, "
+                 "`60` or `70`; with any other both are cleared."},
     {.id = 92,
      .title = "Show Pop-up Descriptions for Explorer and Desktop Items",
      .description =

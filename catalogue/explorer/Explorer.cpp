@@ -326,7 +326,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckList,
      .table = &kApplications,
      .show = showOpenWithPrograms,
-     .apply = applyOpenWithPrograms},
+     .apply = applyOpenWithPrograms,
+     .registry = "Lists the subkeys of `HKCR\\Applications` that have a subkey `shell`. A checked row has no value "
+                 "`NoOpenWith` there and deletes it; a cleared row writes it, an empty REG_SZ."},
     {.id = 120,
      .title = "Specify Unknown File Type Options",
      .description =

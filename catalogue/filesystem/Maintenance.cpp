@@ -289,7 +289,11 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckList,
      .table = &kDriveList,
      .show = showDrives,
-     .apply = applyDrives},
+     .apply = applyDrives,
+     .registry =
+         "`NoDriveAutoRun` (REG_DWORD) in `HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer` "
+         "(opened) becomes the sum of the checked rows: 1 for A:, 4 for C:, twice as much for each further letter, "
+         "`0x3FFFFFF` for ALL. The stored number is not shown."},
     {.id = 153,
      .title = "Select the Drive Types to Start Automatically",
      .description =

@@ -305,7 +305,10 @@ constexpr Tweak kTweaks[] = {
      .fields = kAutoLoginFields,
      .gate = kGateNt,
      .show = showAutoLogin,
-     .apply = applyAutoLogin},
+     .apply = applyAutoLogin,
+     .registry = "'Reset after reboot?' stands for `ForceAutoLogon` (REG_SZ) in `HKLM\\SOFTWARE\\Microsoft\\Windows "
+                 "NT\\CurrentVersion\\Winlogon` (opened): checked deletes the value, cleared writes `1`. The box is "
+                 "shown cleared while the value is `1`."},
     {.id = 159,
      .title = "Change the Default Login Screen Saver",
      .description =
@@ -319,7 +322,10 @@ constexpr Tweak kTweaks[] = {
      .fields = kLoginSaverFields,
      .gate = kGateNt,
      .show = showLoginSaver,
-     .apply = applyLoginSaver},
+     .apply = applyLoginSaver,
+     .registry = "The box stands for `ScreenSaveActive` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (opened): "
+                 "checked writes `1`, cleared `0`. From the program's path the Windows system folder and double "
+                 "quotation marks are removed before it is written."},
     {.id = 160,
      .title = "Change the Login Window",
      .description =
@@ -340,7 +346,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .colour = &kBackground,
      .note = kRestartNote,
-     .apply = applyBackground},
+     .apply = applyBackground,
+     .registry = "The color is also written to `Background` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Colors`, and "
+                 "`(None)` to `Wallpaper` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (both opened)."},
     {.id = 162,
      .title = "Change the Login Screen Wallpaper",
      .description =
@@ -351,7 +359,9 @@ constexpr Tweak kTweaks[] = {
      .boxes = kTileWallpaper,
      .fields = kWallpaperField,
      .note = kWallpaperNote,
-     .apply = applyWallpaper},
+     .apply = applyWallpaper,
+     .registry =
+         "Every apply also writes `(None)` to `Pattern` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (opened)."},
     {.id = 163,
      .title = "Customize the Windows Login and Security Dialog Titles",
      .description =
@@ -423,7 +433,12 @@ constexpr Tweak kTweaks[] = {
      .note = kNote,
      .stamp = Stamp::ByRoutine,
      .show = showLastUser,
-     .apply = applyLastUser},
+     .apply = applyLastUser,
+     .registry = "Checked writes 1, cleared 0: on Windows NT 4 as `DontDisplayLastUserName` (REG_DWORD) in "
+                 "`HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon`, on Windows 2000 and XP under the "
+                 "same name in `HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\System`, on Windows 98 "
+                 "and Me as `DontShowLastUser` (REG_SZ) in `HKLM\\Network\\Logon` (all opened). Windows 95 is refused, "
+                 "later Windows left alone."},
     {.id = 170,
      .title = "Hide the welcome Screen",
      .description =
@@ -455,7 +470,10 @@ constexpr Tweak kTweaks[] = {
      .note = kNote,
      .gate = kGateNt,
      .show = showAutoLoginCount,
-     .apply = applyAutoLoginCount},
+     .apply = applyAutoLoginCount,
+     .registry = "`AutoLogonCount` in `HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon` (opened): the "
+                 "number as REG_DWORD on Windows XP, what is typed as REG_SZ before it. 0, or no number, deletes the "
+                 "value. Either type is shown."},
     {.id = 173,
      .title = "Modify the Number of Cached Logins",
      .description =

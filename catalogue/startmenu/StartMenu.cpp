@@ -193,7 +193,11 @@ constexpr Tweak kTweaks[] = {
      .note = kShellNote,
      .gate = kGate2000XpNaming98,
      .show = showScrolling,
-     .apply = applyScrolling},
+     .apply = applyScrolling,
+     .registry = "Every subkey of `HKU` that has `Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced` "
+                 "gets there `StartMenuScrollPrograms` (REG_SZ, `Yes` or `No`) from the first box and "
+                 "`Start_ScrollPrograms` (REG_DWORD, 1 or 0) from the second. The first is shown checked if any of "
+                 "them has `Yes`, the second as in the last of them."},
     {.id = 198,
      .title = "Highlight New Programs on Start Menu",
      .description =
@@ -302,7 +306,9 @@ constexpr Tweak kTweaks[] = {
      .table = &kPrograms,
      .gate = kGateXp,
      .show = showFrequentPrograms,
-     .apply = applyFrequentPrograms},
+     .apply = applyFrequentPrograms,
+     .registry = "Lists the subkeys of `HKCR\\Applications` whose names contain `.exe` or `.EXE`. A checked row has no "
+                 "value `NoStartPage` there and deletes it; a cleared row writes it, an empty REG_SZ."},
     {.id = 209,
      .title = "Sort Start Menu and Favorites in Alphabetical Order",
      .description = "Windows keeps entries of the Start menu and of Favorites in the order in which they were added or "

@@ -134,7 +134,11 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kBannerBox,
      .note = kShellNote,
-     .apply = applyStartBanner},
+     .apply = applyStartBanner,
+     .registry = "What is written differs from what is shown: checked writes `NoStartBanner` as REG_BINARY `01 00 00 "
+                 "00`, cleared deletes it, in the key above and in "
+                 "`HKU\\S-1-5-21-839522115-1547161642-725345543-"
+                 "1003\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer` (both opened)."},
 };
 
 }  // namespace

@@ -63,6 +63,12 @@ constexpr CheckBox kStartupAtOnce[] = {{.text = "Run the Startup Scripts Asynchr
 constexpr OverviewRow kScriptsRows[] = {{228}, {229}, {230}, {232}, {231}, {233}, {234}, {235}, {236}, {237}};
 constexpr Overview kScriptsOverview{.rows = kScriptsRows};
 
+constexpr std::string_view kHiddenScriptsSource =
+    "Group Policy, System, Scripts: Policy CSP ADMX_Scripts; Windows 2000 registry reference (from general knowledge)";
+
+constexpr std::string_view kLoginScriptSource =
+    "Windows 2000 registry reference, RunLogonScriptSync (TechNet cc958682, cc959699; cc962720 for Winlogon)";
+
 constexpr Tweak kTweaks[] = {
     {.id = 227,
      .title = "Scripts",
@@ -78,7 +84,8 @@ constexpr Tweak kTweaks[] = {
          "JSFile; Edit guards against scripts that come by mail.",
      .page = Page::CheckCombos,
      .choices = kDefaultAction,
-     .note = kSmallRestartOrLogOutNote},
+     .note = kSmallRestartOrLogOutNote,
+     .source = "The verbs of the file classes VBSFile and JSFile of Windows Script Host (from general knowledge)"},
     {.id = 229,
      .title = "Configure Windows Script Signature Security",
      .description =
@@ -87,7 +94,10 @@ constexpr Tweak kTweaks[] = {
          "restriction policies of Windows XP can take precedence.",
      .page = Page::CheckCombos,
      .choices = kSignaturePolicy,
-     .note = kSmallRestartOrLogOutNote},
+     .note = kSmallRestartOrLogOutNote,
+     .source =
+         "MSDN 4d1239h7, signature verification of Windows Script Host; for all users TechNet ee156597. Windows XP "
+         "reads the value only while software restriction policies are off for scripts (from general knowledge)"},
     {.id = 230,
      .title = "Hide the Legacy Login Scripts",
      .description =
@@ -96,7 +106,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLegacyLogin,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kHiddenScriptsSource},
     {.id = 231,
      .title = "Hide the Logoff Scripts",
      .description =
@@ -105,7 +116,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLogoff,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kHiddenScriptsSource},
     {.id = 232,
      .title = "Hide the Login Scripts",
      .description =
@@ -114,7 +126,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLogin,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kHiddenScriptsSource},
     {.id = 233,
      .title = "Hide the Shutdown Scripts",
      .description =
@@ -123,7 +136,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kShutdown,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kHiddenScriptsSource},
     {.id = 234,
      .title = "Hide the Startup Scripts",
      .description =
@@ -132,7 +146,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kStartup,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kHiddenScriptsSource},
     {.id = 235,
      .title = "Run Login Scripts Synchronously",
      .description =
@@ -142,7 +157,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLoginPolicy,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kLoginScriptSource},
     {.id = 236,
      .title = "Run the Login Scripts Synchronously",
      .description =
@@ -152,7 +168,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLoginSetting,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = kLoginScriptSource},
     {.id = 237,
      .title = "Run the Startup Scripts Asynchronously",
      .description =
@@ -161,7 +178,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kStartupAtOnce,
      .note = kRestartWindowsNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = "Windows 2000 registry reference, RunStartupScriptSync; the policy for running startup scripts "
+               "asynchronously stores 0 when it is enabled"},
     {.id = 238,
      .title = "Windows Script Host Settings",
      .description =

@@ -142,7 +142,8 @@ constexpr Tweak kTweaks[] = {
          "it, turning it off closes a way of attack; remote administration tools and some server software need it.",
      .page = Page::Checks,
      .boxes = kDcom,
-     .note = kRestartWindowsNote},
+     .note = kRestartWindowsNote,
+     .source = "KB 825750 (from general knowledge)"},
     {.id = 241,
      .title = "Disable Network Manager Service",
      .description =
@@ -152,7 +153,9 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kNetworkManager,
      .note = kRestartWindowsNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = "The service key Netman, displayed as Network Connections; no Microsoft text calls that service Network "
+               "Manager"},
     {.id = 242,
      .title = "Disable SSDP Discovery in Windows Messenger",
      .description =
@@ -162,7 +165,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kGatewaySearch,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGateXp},
+     .gate = kGateXp,
+     .source = "KB 317843 (from general knowledge)"},
     {.id = 243,
      .title = "Disable Universal Plug and Play Services",
      .description =
@@ -174,7 +178,11 @@ constexpr Tweak kTweaks[] = {
      .note = kRestartWindowsNote,
      .gate = kGateXp,
      .show = showPlugAndPlay,
-     .apply = applyPlugAndPlay},
+     .apply = applyPlugAndPlay,
+     .registry = "`Start` (REG_DWORD) in `HKLM\\SYSTEM\\CurrentControlSet\\Services\\SSDPSRV` and in "
+                 "`HKLM\\SYSTEM\\CurrentControlSet\\Services\\upnphost` (both opened): checked writes 4 (disabled), "
+                 "cleared 3 (manual). The box is shown checked while both are 4.",
+     .source = "The service keys SSDPSRV and upnphost of Windows XP, with their start values (from general knowledge)"},
     {.id = 244,
      .title = "Enable NTP Time Server",
      .description =
@@ -185,7 +193,11 @@ constexpr Tweak kTweaks[] = {
      .note = kSmallRestartOrLogOutNote,
      .gate = kGate2000Xp,
      .show = showTimeServer,
-     .apply = applyTimeServer},
+     .apply = applyTimeServer,
+     .registry = "Checked writes 1, cleared 0 (REG_DWORD): on Windows XP as `Enabled` in "
+                 "`HKLM\\SYSTEM\\CurrentControlSet\\Services\\W32Time\\TimeProviders\\NtpServer`, on Windows 2000 as "
+                 "`LocalNTP` in `HKLM\\SYSTEM\\CurrentControlSet\\Services\\W32Time\\Parameters` (both opened).",
+     .source = "KB 314054 for Windows XP (from general knowledge); KB 223184 for Windows 2000"},
     {.id = 245,
      .title = "Modify the Internet Time Synchronization Schedule",
      .description =
@@ -194,7 +206,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckFields,
      .fields = kInterval,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGateXp},
+     .gate = kGateXp,
+     .source = "TechNet cc779560, reference of the Windows Time service, under the entry NtpServer"},
     {.id = 246,
      .title = "Modify the Internet Time Synchronization Servers",
      .description =
@@ -208,7 +221,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .choices = kServer,
      .note = kRestartWindowsNote,
-     .gate = kGateNt},
+     .gate = kGateNt,
+     .source = "Windows 2000 registry reference, `LanmanServer\\Parameters`, Size (from general knowledge)"},
     {.id = 248,
      .title = "Restrict Interactive Services",
      .description =
@@ -218,7 +232,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kInteractive,
      .note = kRestartWindowsNote,
-     .gate = kGateNt},
+     .gate = kGateNt,
+     .source = "Windows 2000 registry reference, NoInteractiveServices"},
     {.id = 249,
      .title = "Windows Time Synchronization Settings",
      .description =
@@ -229,7 +244,8 @@ constexpr Tweak kTweaks[] = {
      .fields = kTimeSource,
      .choices = kTimeChoices,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp},
+     .gate = kGate2000Xp,
+     .source = "KB 223184"},
 };
 
 }  // namespace

@@ -54,7 +54,7 @@ void removeEverywhere(PageContext& context, std::string_view name) {
 constexpr NumberEntry kScanModes[] = {{"Disabled", 0}, {"Scan every boot", 1}, {"Scan once", 2}};
 constexpr std::string_view kScan = "SFCScan";
 constexpr DwordChoice scanIn(const KeyPath& place) {
-    return {.key = place, .name = kScan, .entries = kScanModes, .initial = 0};
+    return {.key = place, .name = kScan, .entries = kScanModes, .initial = 0, .whenNone = WhenNone::Deletes};
 }
 constexpr Choice kScanMode[] = {{.label = "SFC scan mode:", .binding = scanIn(kPolicy)}};
 
@@ -115,7 +115,9 @@ constexpr Tweak kTweaks[] = {
      .boxes = kProgress,
      .note = kSmallRestartOrLogOutNote,
      .gate = kGate2000Xp,
-     .apply = applyProgress},
+     .apply = applyProgress,
+     .registry =
+         "The value is written to `HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon` (opened) as well."},
     {.id = 254,
      .title = "Manage Windows File Protection Scans",
      .description =
@@ -126,7 +128,10 @@ constexpr Tweak kTweaks[] = {
      .choices = kScanMode,
      .note = kSmallRestartOrLogOutNote,
      .gate = kGate2000Xp,
-     .apply = applyScanMode},
+     .apply = applyScanMode,
+     .registry =
+         "The value is written to, or deleted from, `HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon` "
+         "(opened) as well. When deleting leaves the policy key without values, the key goes with all below it."},
     {.id = 255,
      .title = "Specify the Directory to Store Cached SFC Files",
      .description =
@@ -137,7 +142,8 @@ constexpr Tweak kTweaks[] = {
      .fields = kCache,
      .note = kSmallRestartOrLogOutNote,
      .gate = kGate2000Xp,
-     .apply = applyCacheFolder},
+     .apply = applyCacheFolder,
+     .registry = "When deleting leaves the policy key without values, the key goes with all below it."},
 };
 
 }  // namespace

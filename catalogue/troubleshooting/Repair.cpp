@@ -87,7 +87,10 @@ constexpr Tweak kTweaks[] = {
      .boxes = kShortcutBar,
      .note = "Note:\n\tRestart any office applications.",
      .show = showShortcutBar,
-     .apply = applyShortcutBar},
+     .apply = applyShortcutBar,
+     .registry = "Checked deletes the value `Shortcut Bar` of `HKCU\\Software\\Microsoft\\Office\\10.0` (opened); "
+                 "cleared does nothing. The box is shown checked while there is no key "
+                 "`HKCU\\Software\\Microsoft\\Office\\10.0\\Shortcut Bar`."},
     {.id = 293,
      .title = "Repair the Registry Editor",
      .description =

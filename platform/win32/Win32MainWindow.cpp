@@ -59,6 +59,12 @@ int Win32MainWindow::runModal(MainWindowHandler& handler) {
                                             reinterpret_cast<LPARAM>(this)));
 }
 
+HWND Win32MainWindow::create(MainWindowHandler& handler) {
+    handler_ = &handler;
+    return CreateDialogParamA(instance_, MAKEINTRESOURCEA(IDD_MAIN), nullptr, dialogProc,
+                              reinterpret_cast<LPARAM>(this));
+}
+
 // ---- Messages
 
 INT_PTR CALLBACK Win32MainWindow::dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

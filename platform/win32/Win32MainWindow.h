@@ -30,6 +30,9 @@ public:
 
     // Returns when the window has closed: the result it was ended with, or -1 if it could not be made.
     int runModal(MainWindowHandler& handler);
+    // Makes the window and returns at once, for a caller who handles messages himself and destroys the window before
+    // this object. Null if it could not be made.
+    HWND create(MainWindowHandler& handler);
 
     DialogControls& controls() override { return *dialog_; }
     CTreeListCtrl& tree() override { return *tree_; }

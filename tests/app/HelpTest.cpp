@@ -36,8 +36,9 @@ TEST(Help, LoadsTheRegisteredLibraryOnce) {
 
 TEST(Help, FallsBackToTheLibrarysName) {
     const std::string path(260, 'x');  // one byte too long with its zero
-    for (const std::string& registered : {std::string(), std::string(kServer) + "\"C:\\\\gone.ocx\"\n",
-                                          std::string(kServer) + "\"\"\n", std::string(kServer) + '"' + path + "\"\n"}) {
+    for (const std::string& registered :
+         {std::string(), std::string(kServer) + "\"C:\\\\gone.ocx\"\n", std::string(kServer) + "\"\"\n",
+          std::string(kServer) + '"' + path + "\"\n"}) {
         SCOPED_TRACE(registered);
         Help help(registered);
         EXPECT_EQ(help.call(), 1u);

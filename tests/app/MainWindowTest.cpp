@@ -1,7 +1,5 @@
 // Selecting and applying, the divider, the About box, and what a language file
 // can do to all of them.
-#include "app/LanguageTemplate.h"
-#include "app/StringTable.h"
 #include "res/ControlIds.h"
 #include "tests/support/AppFixture.h"
 
@@ -217,13 +215,16 @@ TEST(AboutBox, EndsWithAMessageWhenItsSkinIsRefused) {
 // ---- Language files
 
 TEST(Languages, ReplaceTheTextsOfTheWindowTheTableAndTheAlerts) {
-    MemoryProgram program("[HKEY_CURRENT_USER\\Console]\n[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n"
-                          "\"Language\"=\"Deutsch\"\n", "98");
+    MemoryProgram program(
+        "[HKEY_CURRENT_USER\\Console]\n[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n"
+        "\"Language\"=\"Deutsch\"\n",
+        "98");
     program.setLanguageFile(
         "[102]\n102=Korvane\n1016=Anwenden\n1004=Baum\n"
         "[1004]\n112=QuickEdit\n113=Zeile\\nzwei\n02=Zubeh\xF6r\n"
         "[Item11]\n1013=Ein\n1024=Hinweis\n"
-        "[KorvaneManagerStringTable]\n2001=A C H T U N G\n2002=Nur\\tNT\n101=Info\n", "Deutsch");
+        "[KorvaneManagerStringTable]\n2001=A C H T U N G\n2002=Nur\\tNT\n101=Info\n",
+        "Deutsch");
     ASSERT_TRUE(program.start());
     EXPECT_EQ(program.window.dialog().caption(), "Korvane");
     EXPECT_EQ(program.window.dialog().text(IDC_APPLY), "Anwenden");
@@ -276,73 +277,6 @@ TEST(Languages, RedirectItemsByTheirIds) {
     // A number is read as far as it goes.
     ASSERT_TRUE(program.window.selectRow(rowOf("Enable Directory Completion")));
     EXPECT_TRUE(shownPage(program)->text(IDC_HEADER).starts_with("Change the Command Prompt Colors:\n"));
-}
-
-// All that a page shows, the cells of its lists and the entries of its combo boxes included.
-std::string wholePage(MemoryProgram& program) {
-    std::string text = pageText(program);
-    for (const int id : program.visiblePages()) {
-        for (const MemoryControl& control : program.window.page(id)->allControls()) {
-            if (!control.visible || control.entries.size() > 1000) {
-                continue;
-            }
-            for (const MemoryComboEntry& entry : control.entries) {
-                text += entry.text + '\n';
-            }
-            for (const MemoryListColumn& column : control.columns) {
-                text += column.heading + '\n';
-            }
-            for (const MemoryListRow& row : control.rows) {
-                for (const std::string& cell : row.cells) {
-                    text += cell + '\n';
-                }
-            }
-        }
-    }
-    return text;
-}
-
-TEST(Languages, TheTemplateForTranslatorsSaysWhatTheProgramSays) {
-    MemoryProgram plain;
-    MemoryProgram translated("[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"Language\"=\"Template\"\n");
-    translated.setLanguageFile(makeLanguageTemplate(), "Template");
-    ASSERT_TRUE(plain.start() && translated.start());
-    EXPECT_EQ(translated.window.dialog().caption(), plain.window.dialog().caption());
-    EXPECT_EQ(translated.window.dialog().text(IDC_APPLY), plain.window.dialog().text(IDC_APPLY));
-    for (int id = 0; id < kItemCount; ++id) {
-        plain.select(id);
-        translated.select(id);
-        EXPECT_EQ(wholePage(translated), wholePage(plain)) << "item " << id;
-    }
-    for (const StringTableEntry& entry : stringTable()) {
-        EXPECT_EQ(translated.app->LoadString(entry.id), entry.text);
-    }
-}
-
-TEST(Languages, EveryTextOfTheTemplateIsLookedUp) {
-    // A letter before each value must come through to every text of every page.
-    MemoryProgram program("[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"Language\"=\"X\"\n");
-    std::string content = makeLanguageTemplate();
-    for (std::size_t at = content.find('='); at != std::string::npos; at = content.find('=', content.find('\n', at))) {
-        content.insert(at + (content[at + 1] == '"' ? 2 : 1), "X");
-    }
-    program.setLanguageFile(content, "X");
-    ASSERT_TRUE(program.start());
-    for (int id = 0; id < kItemCount; ++id) {
-        program.select(id);
-        for (const int page : program.visiblePages()) {
-            for (const MemoryControl& control : program.window.page(page)->allControls()) {
-                const bool label = control.kind == ControlKind::Header || control.kind == ControlKind::Label ||
-                                   control.kind == ControlKind::Note || control.kind == ControlKind::CheckBox;
-                if (label && control.visible) {
-                    EXPECT_TRUE(control.text.starts_with('X')) << "item " << id << ": " << control.text;
-                }
-                for (const MemoryListColumn& column : control.columns) {
-                    EXPECT_TRUE(column.heading.starts_with('X')) << "item " << id << ": " << column.heading;
-                }
-            }
-        }
-    }
 }
 
 TEST(Browsing, FillsTheFieldInQuotesAndEmptiesItOnCancel) {

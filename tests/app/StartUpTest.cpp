@@ -158,8 +158,8 @@ TEST(StartUp, TakesItsStepsInOrder) {
     MemorySystem system;
     LoggedProfile profile(log);
     LoggedFiles files(log);
-    Platform platform{registry,         system.messages, system.version, system.fixedClock, system.folders,
-                      profile, system.pickers,  files,          system.help};
+    Platform platform{registry, system.messages, system.version, system.fixedClock, system.folders,
+                      profile,  system.pickers,  files,          system.help};
     MemoryMainWindow memoryWindow;
     LoggedWindow window(memoryWindow, log);
     CKorvaneApp app(platform, "C:\\Korvane\\KorvaneManager.exe");
@@ -257,7 +257,8 @@ void expectSkinMessage(const std::vector<MessageBoxRequest>& messages) {
 }
 
 TEST(SkinRefusal, EndsTheProgramWhenTheMainWindowIsRefused) {
-    // Loading and applying the skin closes the window as a person does; the main window's elements end the dialog with 0.
+    // Loading and applying the skin closes the window as a person does; the main window's elements end the dialog with
+    // 0.
     constexpr int kClosed = 2;
     for (std::size_t call = 1; call <= 4; ++call) {
         SCOPED_TRACE(call);

@@ -34,9 +34,11 @@ bool isPlainLine(std::string_view text) {
            std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
 }
 
-// A text of a control; only line feeds and tabs may stand beside printable ASCII.
+// A text of a control; only line ends and tabs may stand beside printable ASCII.
 bool isControlText(std::string_view text) {
-    return !text.empty() && std::ranges::all_of(text, [](char c) { return (c >= ' ' && c <= '~') || c == '\n' || c == '\t'; });
+    return !text.empty() && std::ranges::all_of(text, [](char c) {
+        return (c >= ' ' && c <= '~') || c == '\r' || c == '\n' || c == '\t';
+    });
 }
 
 bool isPath(std::string_view path) {

@@ -1,35 +1,20 @@
 // The Command Processor tweaks, case by case: what each shows of a registry,
 // what it writes, and where it differs from what one would expect.
-#include "res/ControlIds.h"
-#include "tests/support/AppFixture.h"
+#include "tests/catalogue/ItemTest.h"
 
 namespace korvane {
 namespace {
 
-class CommandProcessor : public OverPrograms {
+class CommandProcessor : public ItemTest {
 protected:
     // A user with the given values in the command interpreter's key.
     static std::string withValues(std::string_view values) {
         return "[HKEY_CURRENT_USER\\Software\\Microsoft\\Command Processor]\n" + std::string(values) + '\n' +
                std::string(kBareRegistry);
     }
-    bool stamped(std::string_view title) { return dateOf(program(), title) == kLaterDay; }
-    // The texts of the alerts shown so far.
-    std::string alerts() {
-        std::string texts;
-        for (const MessageBoxRequest& message : program().messages()) {
-            EXPECT_EQ(message.caption, "A L E R T");
-            texts += message.text + '\n';
-        }
-        return texts;
-    }
-    std::uint32_t box() { return shownPage(program())->check(IDC_CHECK1); }
-    std::string edit() { return shownPage(program())->text(IDC_EDIT1); }
-    int combo(int control) { return shownPage(program())->comboSelection(control); }
 };
 
-INSTANTIATE_TEST_SUITE_P(Memory, CommandProcessor, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, CommandProcessor, ::testing::ValuesIn(programKinds()), kindName);
 
 const std::string kInterpreter = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Command Processor] ";
 const std::string kMachineInterpreter = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Command Processor] ";
@@ -37,8 +22,8 @@ const std::string kMachineInterpreter = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsof
 // ---- Gates
 
 TEST_P(CommandProcessor, GatesRefuseWithTheirAlerts) {
-    constexpr const char* kNamingNt = "These Tweak active only on Windows NT/2000/XP\n";
-    constexpr const char* kNaming2000 = "These Tweak active only on Windows 2000/XP\n";
+    constexpr const char* kNamingNt = "These Tweak active only on Windows NT/2000/XP";
+    constexpr const char* kNaming2000 = "These Tweak active only on Windows 2000/XP";
     struct {
         int id;
         const char* title;
@@ -56,13 +41,14 @@ TEST_P(CommandProcessor, GatesRefuseWithTheirAlerts) {
         {11, "Quick Edit the Command Prompt", true, kNamingNt, true},
         {12, "Run Startup Programs in Command Prompt", false, kNamingNt, false},
     };
-    for (const std::string_view windows : {"95", "98", "me", "nt4", "2000", "xp", "2003", "vista"}) {
+    for (const std::string_view windows : kAllWindows) {
         for (const auto& each : cases) {
             SCOPED_TRACE(std::string(windows) + ' ' + each.title);
-            const bool accepted = windows == "2000" || windows == "xp" || windows == "2003" ||
-                                  (windows == "nt4" && each.onNt4);
-            start({.windows = windows, .registry = withValues("") + "[HKEY_CURRENT_USER\\Console]\n"
-                                                                   "[HKEY_CURRENT_USER\\Software\\Policies\\Microsoft]\n"});
+            const bool accepted =
+                windows == "2000" || windows == "xp" || windows == "2003" || (windows == "nt4" && each.onNt4);
+            start({.windows = windows,
+                   .registry = withValues("") + "[HKEY_CURRENT_USER\\Console]\n"
+                                                "[HKEY_CURRENT_USER\\Software\\Policies\\Microsoft]\n"});
             program().select(each.id);
             program().click(IDC_CHECK1);
             program().pick(IDC_COMBO1, 2);
@@ -95,8 +81,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Memory, PromptHere, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, PromptHere, ::testing::ValuesIn(programKinds()), kindName);
 
 TEST_P(PromptHere, ShowsTheMenuTextOfTheKey) {
     struct {
@@ -142,12 +127,13 @@ TEST_P(PromptHere, WritesTheCommandLineOfTheWindowsFamily) {
         ASSERT_TRUE(program().click(IDC_CHECK1));
         ASSERT_TRUE(program().type(IDC_EDIT1, "Prompt here"));
         ASSERT_TRUE(program().apply());
-        EXPECT_EQ(changes(), "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command]\n"
-                             "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command] @=\"" +
-                                 std::string(each.commandLine) +
-                                 "\"\n"
-                                 "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command]\n"
-                                 "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command] @=\"Prompt here\"\n");
+        EXPECT_EQ(changes(),
+                  "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command]\n"
+                  "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command] @=\"" +
+                      std::string(each.commandLine) +
+                      "\"\n"
+                      "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command]\n"
+                      "+[HKEY_CLASSES_ROOT\\Directory\\shell\\Command] @=\"Prompt here\"\n");
         EXPECT_TRUE(stamped(kTitle));
         EXPECT_EQ(alerts(), "");
         program().select(2);
@@ -161,7 +147,7 @@ TEST_P(PromptHere, RefusesAnEmptyMenuText) {
     program().select(2);
     ASSERT_TRUE(program().click(IDC_CHECK1));
     ASSERT_TRUE(program().apply());
-    EXPECT_EQ(alerts(), "Please Set the Command Prompt Menu Name\n");
+    EXPECT_EQ(alerts(), "Please Set the Command Prompt Menu Name");
     EXPECT_EQ(box(), 0u);
     EXPECT_EQ(changes(), "");
     EXPECT_FALSE(stamped(kTitle));
@@ -187,10 +173,11 @@ TEST_P(PromptHere, ClearedRemovesTheKeyOnAnyWindowsWithoutADate) {
         program().select(2);
         ASSERT_TRUE(program().click(IDC_CHECK1));
         ASSERT_TRUE(program().apply());
-        EXPECT_EQ(changes(), "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command\\below]\n"
-                             "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command\\below] @=\"x\"\n"
-                             "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command]\n"
-                             "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command] @=\"Prompt here\"\n");
+        EXPECT_EQ(changes(),
+                  "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command\\below]\n"
+                  "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command\\command\\below] @=\"x\"\n"
+                  "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command]\n"
+                  "-[HKEY_CLASSES_ROOT\\Directory\\shell\\Command] @=\"Prompt here\"\n");
         EXPECT_EQ(alerts(), "");
         EXPECT_FALSE(stamped(kTitle));
     }
@@ -303,18 +290,16 @@ protected:
     static std::vector<Item> items() { return {{8, "\"CompletionChar\"="}, {10, "\"PathCompletionChar\"="}}; }
 };
 
-INSTANTIATE_TEST_SUITE_P(Memory, Completion, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, Completion, ::testing::ValuesIn(programKinds()), kindName);
 
 TEST_P(Completion, ShowsTheKeyOfEachScope) {
     struct {
         const char* stored;
         int entry;
     } const cases[] = {
-        {"dword:00000008", 1}, {"dword:00000009", 2}, {"dword:00000004", 3}, {"dword:00000006", 4},
-        {"dword:00000000", -1},  // not "Disable"
-        {"dword:00000040", -1}, {"dword:ffffffff", -1},
-        {"hex:09,00,00,00", 2},  // the type does not matter
+        {"dword:00000008", 1},  {"dword:00000009", 2},  {"dword:00000004", 3},
+        {"dword:00000006", 4},  {"dword:00000000", -1},                          // not "Disable"
+        {"dword:00000040", -1}, {"dword:ffffffff", -1}, {"hex:09,00,00,00", 2},  // the type does not matter
         {"\"9\"", -1},
     };
     for (const Item& item : items()) {
@@ -350,8 +335,8 @@ TEST_P(Completion, WritesEachScopeByItself) {
         // A typed text is no selection, even an entry's own.
         ASSERT_TRUE(program().type(IDC_COMBO1, "TAB key"));
         ASSERT_TRUE(program().apply());
-        EXPECT_EQ(changes(), '-' + kInterpreter + item.name + "dword:00000004\n+" + kInterpreter + item.name +
-                                 "dword:ffffffff\n");
+        EXPECT_EQ(changes(),
+                  '-' + kInterpreter + item.name + "dword:00000004\n+" + kInterpreter + item.name + "dword:ffffffff\n");
         EXPECT_EQ(alerts(), "");
     }
 }

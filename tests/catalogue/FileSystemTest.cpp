@@ -7,8 +7,7 @@ namespace {
 
 class FileSystem : public ItemTest {};
 
-INSTANTIATE_TEST_SUITE_P(Memory, FileSystem, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, FileSystem, ::testing::ValuesIn(programKinds()), kindName);
 
 const std::string kControl = "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\FileSystem]";
 const std::string kExplorer = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer]";

@@ -7,8 +7,7 @@ namespace {
 
 class Login : public ItemTest {};
 
-INSTANTIATE_TEST_SUITE_P(Memory, Login, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, Login, ::testing::ValuesIn(programKinds()), kindName);
 
 const std::string kWinlogon = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon]";
 const std::string kWinlogon9x = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Winlogon]";

@@ -7,8 +7,7 @@ namespace {
 
 class StartMenu : public ItemTest {};
 
-INSTANTIATE_TEST_SUITE_P(Memory, StartMenu, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, StartMenu, ::testing::ValuesIn(programKinds()), kindName);
 
 const std::string kExplorer = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer]";
 const std::string kAdvanced = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced]";

@@ -65,8 +65,7 @@ private:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Memory, Sweep, ::testing::Values(ProgramKind{"Memory", startInMemory}),
-                         [](const auto& kind) { return kind.param.name; });
+INSTANTIATE_TEST_SUITE_P(Over, Sweep, ::testing::ValuesIn(programKinds()), kindName);
 
 // ---- Showing
 
@@ -81,9 +80,8 @@ TEST_P(Sweep, ShowingWritesNothing) {
 TEST_P(Sweep, APageDoesNotDependOnWhatWasShownBefore) {
     for (const std::string& registry : registries()) {
         std::vector<std::string> alone(kItemCount);
-        forEachItem({.registry = registry}, [&](const Tweak& tweak) {
-            alone[static_cast<std::size_t>(tweak.id)] = pageText(program());
-        });
+        forEachItem({.registry = registry},
+                    [&](const Tweak& tweak) { alone[static_cast<std::size_t>(tweak.id)] = pageText(program()); });
         // The other way round, and with every page left in a state that nobody applied.
         start({.registry = registry});
         for (int id = kItemCount - 1; id >= 0; --id) {
@@ -174,9 +172,15 @@ TEST_P(Sweep, ApplyingAgainChangesNothingMore) {
     }
 }
 
+// The drive selection starts unchecked whatever is stored.
+constexpr int kNeverRead[] = {152};
+
 // What is applied is shown again, where the registry has a place for it.
 TEST_P(Sweep, WhatWasAppliedIsShownAgain) {
     forEachItem({.registry = sampleRegistry()}, [&](const Tweak& tweak) {
+        if (std::ranges::count(kNeverRead, tweak.id)) {
+            return;
+        }
         changeEverything(false);
         const std::string page = pageText(program());
         const std::string before = program().registryText();

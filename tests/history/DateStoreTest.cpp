@@ -39,7 +39,8 @@ struct Dates {
 
 // A file as an earlier run left it.
 std::string earlier(const std::string& date) {
-    return "korvane(\"One\"," + date + ")\r\nkorvane(\"Two\"," + date + ")\r\nkorvane(\"Two and a half\"," + date + ")\r\n";
+    return "korvane(\"One\"," + date + ")\r\nkorvane(\"Two\"," + date + ")\r\nkorvane(\"Two and a half\"," + date +
+           ")\r\n";
 }
 
 struct CreatedBefore : Dates {
@@ -77,8 +78,9 @@ TEST(DateStore, WritesMonthDayAndYearWithoutZeros) {
         dates.start();
         EXPECT_EQ(dates.file(), earlier(each.text));
         EXPECT_EQ(dates.store->LookUp("Two"), each.text);
-        EXPECT_EQ(dates.state(), "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n"
-                                 "\"DateModefiedFlage\"=dword:00000001\n\"Language\"=\"English\"\n");
+        EXPECT_EQ(dates.state(),
+                  "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n"
+                  "\"DateModefiedFlage\"=dword:00000001\n\"Language\"=\"English\"\n");
         EXPECT_EQ(dates.registry.openHandles(), 0u);
     }
 }
@@ -88,9 +90,10 @@ TEST(DateStore, OnlyTheNumberOneMeansThatTheFileWasCreated) {
         std::string data;
         bool created;
     } const cases[] = {
-        {"dword:00000000", false},       {"dword:00000002", false},          {"dword:00000101", false},
-        {"\"1\"", false},                {"hex:01,00,00,00", true},          {"hex:01,00,00,00,ff", true},
-        {"hex(7):31,00,00,00", false},   {"dword:00000001", true},
+        {"dword:00000000", false},     {"dword:00000002", false},
+        {"dword:00000101", false},     {"\"1\"", false},
+        {"hex:01,00,00,00", true},     {"hex:01,00,00,00,ff", true},
+        {"hex(7):31,00,00,00", false}, {"dword:00000001", true},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.data);
@@ -305,9 +308,9 @@ TEST(DateStore, SurvivesFilesOfAnyForm) {
     std::erase(lineFeedsOnly, '\r');
     std::string noLineEnds = lineFeedsOnly;
     std::erase(noLineEnds, '\n');
-    for (const std::string& text : {std::string(), std::string("\0\0\0", 3), lineFeedsOnly, noLineEnds,
-                                    std::string("korvane(\"Two\""), std::string("korvane(\"Two\"\r"),
-                                    std::string("korvane(\"Two\",\r\n"), earlier("")}) {
+    for (const std::string& text :
+         {std::string(), std::string("\0\0\0", 3), lineFeedsOnly, noLineEnds, std::string("korvane(\"Two\""),
+          std::string("korvane(\"Two\"\r"), std::string("korvane(\"Two\",\r\n"), earlier("")}) {
         SCOPED_TRACE(text);
         CreatedBefore dates(text);
         dates.store->LookUp("Two");

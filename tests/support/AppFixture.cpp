@@ -9,6 +9,10 @@
 #include <algorithm>
 #include <set>
 
+#ifdef _WIN32
+#include "tests/win32/WindowsProgram.h"
+#endif
+
 // Tests run in the project's root unless they are told where it is.
 #ifndef KORVANE_SOURCE_DIR
 #define KORVANE_SOURCE_DIR "."
@@ -17,8 +21,8 @@
 namespace korvane {
 namespace {
 
-constexpr int kPageTemplates[] = {IDD_CATEGORY,   IDD_CHECKS,      IDD_CHECK_FIELDS, IDD_CHECK_COMBOS, IDD_CHECK_LIST,
-                                  IDD_PATH_FIELDS, IDD_COMBOS,     IDD_EDIT_COMBOS,  IDD_CHECK_COMBO};
+constexpr int kPageTemplates[] = {IDD_CATEGORY,    IDD_CHECKS, IDD_CHECK_FIELDS, IDD_CHECK_COMBOS, IDD_CHECK_LIST,
+                                  IDD_PATH_FIELDS, IDD_COMBOS, IDD_EDIT_COMBOS,  IDD_CHECK_COMBO};
 
 // Each line of a registry text together with the key it belongs to.
 std::set<std::string> linesWithKeys(std::string_view text) {
@@ -41,13 +45,11 @@ std::set<std::string> linesWithKeys(std::string_view text) {
 std::string controlText(DialogControls& page, const ControlTemplate& control) {
     const int id = control.id;
     switch (control.kind) {
-        case ControlKind::CheckBox:
-            return '[' + std::to_string(page.check(id)) + "] " + page.text(id);
+        case ControlKind::CheckBox: return '[' + std::to_string(page.check(id)) + "] " + page.text(id);
         case ControlKind::Combo:
             return page.text(id) + " (" + std::to_string(page.comboSelection(id)) + " of " +
                    std::to_string(page.comboCount(id)) + ')';
-        case ControlKind::ColourCombo:
-            return std::to_string(page.comboCount(id)) + " colours";
+        case ControlKind::ColourCombo: return std::to_string(page.comboCount(id)) + " colours";
         case ControlKind::List:
             return std::to_string(page.rowCount(id)) + " rows, selected " + std::to_string(page.selectedRow(id));
         case ControlKind::CheckedList: {
@@ -57,8 +59,7 @@ std::string controlText(DialogControls& page, const ControlTemplate& control) {
             }
             return "rows " + checks;
         }
-        default:
-            return page.text(id);
+        default: return page.text(id);
     }
 }
 
@@ -66,8 +67,8 @@ std::string controlText(DialogControls& page, const ControlTemplate& control) {
 
 void loadRegistry(MemoryRegistry& registry, std::string_view text) {
     const bool whole = text.starts_with("Windows Registry Editor") || text.starts_with("\xFF\xFE");
-    const auto error =
-        loadRegFile(whole ? std::string(text) : "Windows Registry Editor Version 5.00\n\n" + std::string(text), registry);
+    const auto error = loadRegFile(
+        whole ? std::string(text) : "Windows Registry Editor Version 5.00\n\n" + std::string(text), registry);
     ASSERT_FALSE(error) << "line " << error->line << ": " << error->reason;
 }
 
@@ -221,6 +222,15 @@ std::unique_ptr<Program> startInMemory(const Situation& situation) {
     auto program = std::make_unique<MemoryProgram>(situation.registry, situation.windows);
     EXPECT_TRUE(program->start());
     return program;
+}
+
+std::vector<ProgramKind> programKinds() {
+    return {
+        {"Memory", startInMemory},
+#ifdef _WIN32
+        {"Windows", startOnWindows},
+#endif
+    };
 }
 
 }  // namespace korvane

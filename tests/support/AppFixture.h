@@ -86,7 +86,12 @@ struct ProgramKind {
     std::unique_ptr<Program> (*start)(const Situation&);
 };
 
-// Tests that run over every kind of program; another kind joins in by instantiating the suites for it.
+// The kinds there are on this platform: the program in memory, and on Windows the one with real windows and keys.
+std::vector<ProgramKind> programKinds();
+inline std::string kindName(const ::testing::TestParamInfo<ProgramKind>& kind) { return kind.param.name; }
+inline void PrintTo(const ProgramKind& kind, std::ostream* out) { *out << kind.name; }
+
+// Tests that run over every kind of program: INSTANTIATE_TEST_SUITE_P(Over, Suite, ValuesIn(programKinds()), kindName).
 class OverPrograms : public ::testing::TestWithParam<ProgramKind> {
 protected:
     // Ends the program of before. The first day is 6/15/2005, the days of later applies are 7/16/2006.

@@ -1,0 +1,204 @@
+// Writing the catalogue as Markdown. A backslash at the end of a line is a line
+// break.
+#include "app/TweaksDocument.h"
+
+#include "app/BindingText.h"
+#include "catalogue/Catalogue.h"
+
+namespace korvane {
+namespace {
+
+constexpr std::string_view kIntroduction = R"(# The tweaks
+
+Every setting that Korvane Manager knows, with the registry values behind it. Generated from the catalogue: change the
+catalogue, not this file.
+
+The number before a title is the ItemId: `kmctl show 11` shows that tweak, `kmctl apply 11 1013=1` changes it. The line
+below the description says where the tweak stands in the tree, and which versions of Windows accept it; all others
+refuse it and write nothing. XP includes Windows Server 2003. Windows Vista and later accept only what is for every
+Windows. What is not in the tree is reachable by `kmctl` alone.
+
+Then come the controls of the page. Each says what it is in the registry, and what *Apply Changes* writes for each of
+its states:
+
+- `HKCR`, `HKCU`, `HKLM` and `HKU` are the roots `HKEY_CLASSES_ROOT`, `HKEY_CURRENT_USER`, `HKEY_LOCAL_MACHINE` and
+  `HKEY_USERS`.
+- A key that is *opened* must exist: without it the control shows its empty state, and nothing is written. One that is
+  *created* is made when the page is applied, if need be with the keys above it; one that is *created below* another
+  only if that other key exists. Showing a page never creates anything.
+- *No choice* is a combo box in which nothing is selected.
+- Numbers that begin with `0x`, and the bytes of REG_BINARY data, are hexadecimal.
+- *Registry* tells what the tweak reads and writes besides, or in place of that, *Source* where Windows' side of it is
+  described.
+
+)";
+
+// ---- Markdown
+
+bool isWordCharacter(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+// Plain text as it stands; an underscore within a word needs no mark.
+std::string escape(std::string_view text) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        const bool within =
+            i > 0 && i + 1 < text.size() && isWordCharacter(text[i - 1]) && isWordCharacter(text[i + 1]);
+        if (std::string_view("\\`*[]<>|~&").find(c) != std::string_view::npos || (c == '_' && !within)) {
+            result += '\\';
+        }
+        result += c;
+    }
+    return result;
+}
+
+std::string codeSpan(const std::string& text) {
+    const char* const fence = text.find('`') == std::string::npos ? "`" : "``";
+    return fence + text + fence;
+}
+
+std::string markdown(const TextLine& line) {
+    std::string text;
+    for (const TextPiece& piece : line) {
+        text += piece.literal ? codeSpan(piece.text) : escape(piece.text);
+    }
+    return text;
+}
+
+// ---- A tweak
+
+// A control's text in one line without blanks at its ends, where no mark would stick to it.
+std::string label(std::string_view text) {
+    std::string result(text.substr(0, text.find_last_not_of(" \r\n") + 1));
+    for (char& c : result) {
+        c = c == '\n' ? ' ' : c;
+    }
+    return "**" + escape(result) + "**";
+}
+
+void addLines(std::string& document, const std::vector<TextLine>& lines) {
+    for (const TextLine& line : lines) {
+        document += "\\\n  " + markdown(line);
+    }
+}
+
+void addControl(std::string& document, const Tweak& tweak, const std::string& name, const BindingText& binding) {
+    document += "- " + name;
+    addLines(document, binding.places);
+    if (!tweak.showOnly) {
+        addLines(document, binding.effects);
+    }
+    document += '\n';
+}
+
+// "Accessories > Command Processor"
+std::string pathInTree(const Tweak& tweak) {
+    if (tweak.treeParent == kTreeRoot) {
+        return {};
+    }
+    const Tweak& parent = *findTweak(tweak.treeParent);
+    const std::string above = pathInTree(parent);
+    return (above.empty() ? "" : above + " > ") + escape(parent.treeRowText());
+}
+
+std::string placeInTree(const Tweak& tweak) {
+    if (tweak.treeParent == kNoTreeRow) {
+        return "Not in the tree.";
+    }
+    return tweak.treeParent == kTreeRoot ? "Top of the tree." : "Tree: " + pathInTree(tweak) + ".";
+}
+
+std::string overviewOf(const Tweak& category) {
+    std::string text = " Category; its overview lists";
+    for (const OverviewRow& row : category.overview->rows) {
+        text.append(text.back() == 's' ? " " : ", ").append(std::to_string(row.id));
+    }
+    return text + '.';
+}
+
+std::string acceptedBy(const Tweak& tweak) {
+    const std::string versions = windowsVersions(tweak.gate.accepted);
+    return (versions.empty() ? " Every Windows" : ' ' + versions) + '.';
+}
+
+void addControls(std::string& document, const Tweak& tweak) {
+    for (const CheckBox& box : tweak.boxes) {
+        addControl(document, tweak, label(box.text), describe(box));
+    }
+    for (const Field& field : tweak.fields) {
+        addControl(document, tweak, label(field.label), describe(field));
+    }
+    if (tweak.colour != nullptr) {
+        addControl(document, tweak, label(tweak.colour->label), describe(*tweak.colour));
+    }
+    for (const Choice& choice : tweak.choices) {
+        addControl(document, tweak, label(choice.label), describe(choice));
+    }
+    if (tweak.table != nullptr) {
+        addControl(document, tweak, "the list", describe(*tweak.table));
+    }
+}
+
+void addLine(std::string& document, std::string_view name, std::string_view text) {
+    if (!text.empty()) {
+        document.append("\n").append(name).append(": ").append(markdown(markedText(text))).append("\n");
+    }
+}
+
+std::string heading(const Tweak& tweak) { return std::to_string(tweak.id) + ' ' + escape(tweak.title); }
+
+void addTweak(std::string& document, const Tweak& tweak) {
+    document += "### " + heading(tweak) + "\n\n" + escape(tweak.description) + "\n\n" + placeInTree(tweak);
+    if (tweak.overview != nullptr) {
+        document += overviewOf(tweak) + "\n\n";
+        return;
+    }
+    document += acceptedBy(tweak);
+    document += tweak.showOnly ? " The page only shows what is set; nothing is written.\n\n" : "\n\n";
+    addControls(document, tweak);
+    addLine(document, "Registry", tweak.registry);
+    addLine(document, "Source", tweak.source);
+    document += '\n';
+}
+
+// In ItemId order, whatever the order of the group's units.
+void addGroup(std::string& document, const CatalogueGroup& group) {
+    document.append("## ").append(group.name).append("\n\n");
+    std::string kept;
+    for (int id = group.first; id <= group.last; ++id) {
+        const Tweak& tweak = *findTweak(id);
+        if (tweak.hasShow()) {
+            addTweak(document, tweak);
+        } else {
+            kept += "- " + heading(tweak) + '\n';
+        }
+    }
+    if (!kept.empty()) {
+        document += "Kept in the table, nothing to change:\n\n" + kept + '\n';
+    }
+}
+
+void addContents(std::string& document) {
+    for (const CatalogueGroup& group : catalogueGroups()) {
+        std::string anchor(group.name);
+        for (char& c : anchor) {
+            c = c == ' ' ? '-' : c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        }
+        document.append("- [").append(group.name).append("](#").append(anchor).append(")\n");
+    }
+    document += '\n';
+}
+
+}  // namespace
+
+std::string makeTweaksDocument() {
+    std::string document(kIntroduction);
+    addContents(document);
+    for (const CatalogueGroup& group : catalogueGroups()) {
+        addGroup(document, group);
+    }
+    document.pop_back();
+    return document;
+}
+
+}  // namespace korvane
