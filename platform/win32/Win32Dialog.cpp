@@ -43,6 +43,14 @@ Rect rectInParent(HWND window) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
+HWND Win32Dialog::control(int id) const {
+    if (id != lastId_ || !IsWindow(lastControl_)) {
+        lastId_ = id;
+        lastControl_ = GetDlgItem(dialog_, id);
+    }
+    return lastControl_;
+}
+
 LRESULT Win32Dialog::send(int id, UINT message, WPARAM wParam, LPARAM lParam, LRESULT missing) const {
     const HWND window = control(id);
     return window == nullptr ? missing : SendMessageA(window, message, wParam, lParam);

@@ -57,11 +57,14 @@ public:
     bool rowCheck(int id, int row) override;
 
 private:
-    HWND control(int id) const { return GetDlgItem(dialog_, id); }
+    HWND control(int id) const;
     // The answer of a control that does not exist is `missing`.
     LRESULT send(int id, UINT message, WPARAM wParam, LPARAM lParam, LRESULT missing = 0) const;
 
     HWND dialog_;
+    // Where the control asked for last is: filling a list of ten thousand numbers must not search for it each time.
+    mutable int lastId_ = 0;
+    mutable HWND lastControl_ = nullptr;
 };
 
 }  // namespace korvane

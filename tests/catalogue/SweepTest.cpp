@@ -12,8 +12,6 @@
 namespace korvane {
 namespace {
 
-constexpr std::string_view kAllWindows[] = {"95", "98", "me", "nt4", "2000", "xp", "2003", "vista"};
-
 class Sweep : public OverPrograms {
 protected:
     // Selects all items with a page in one run of the program over that registry.
@@ -30,7 +28,19 @@ protected:
         EXPECT_EQ(program().openHandles(), 0u);
     }
 
-    static std::vector<std::string> registries() { return {std::string(kBareRegistry), sampleRegistry()}; }
+    // Real windows take a hundred times as long: there one Windows of each family and the fuller registry must do.
+    static std::vector<std::string_view> everyWindows() {
+        if (!GetParam().quick) {
+            return {"98", "xp"};
+        }
+        return {"95", "98", "me", "nt4", "2000", "xp", "2003", "vista"};
+    }
+    static std::vector<std::string> registries() {
+        if (!GetParam().quick) {
+            return {sampleRegistry()};
+        }
+        return {std::string(kBareRegistry), sampleRegistry()};
+    }
 
     // Every control that a person can change gets another state.
     void changeEverything(bool selectingRows = true) {
@@ -115,7 +125,7 @@ COsVersion versionOf(std::string_view windows) {
 }
 
 TEST_P(Sweep, ARefusedTweakIsLeftAlone) {
-    for (const std::string_view windows : kAllWindows) {
+    for (const std::string_view windows : everyWindows()) {
         const COsVersion version = versionOf(windows);
         forEachItem({.windows = windows, .registry = sampleRegistry()}, [&](const Tweak& tweak) {
             if (!tweak.hasApply() || tweak.gate.open(version)) {
@@ -135,7 +145,7 @@ TEST_P(Sweep, ARefusedTweakIsLeftAlone) {
 }
 
 TEST_P(Sweep, AnythingCanBeAppliedAnywhere) {
-    for (const std::string_view windows : kAllWindows) {
+    for (const std::string_view windows : everyWindows()) {
         for (const std::string& registry : registries()) {
             for (const bool changed : {false, true}) {
                 forEachItem({.windows = windows, .registry = registry}, [&](const Tweak& tweak) {

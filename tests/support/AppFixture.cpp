@@ -226,9 +226,9 @@ std::unique_ptr<Program> startInMemory(const Situation& situation) {
 
 std::vector<ProgramKind> programKinds() {
     return {
-        {"Memory", startInMemory},
+        {"Memory", true, startInMemory},
 #ifdef _WIN32
-        {"Windows", startOnWindows},
+        {"Windows", false, startOnWindows},
 #endif
     };
 }

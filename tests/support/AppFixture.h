@@ -83,6 +83,7 @@ struct Situation {
 
 struct ProgramKind {
     const char* name;
+    bool quick;  // enough for tests that apply everything on every Windows
     std::unique_ptr<Program> (*start)(const Situation&);
 };
 

@@ -47,14 +47,16 @@ SharedMainWindow::~SharedMainWindow() {
 
 void SharedMainWindow::lendTo(MainWindowHandler& borrower) {
     borrower_ = &borrower;
+    // As when the program starts, the window is filled before it is shown: otherwise each row of the tree is painted.
     if (made_) {
+        ShowWindow(window(), SW_HIDE);
         makeAsNew();
         borrower.OnInitDialog();
-        return;
+    } else {
+        window_.create(*this);
+        made_ = true;
     }
-    const HWND window = window_.create(*this);
-    ShowWindow(window, SW_SHOWMINNOACTIVE);
-    made_ = true;
+    ShowWindow(window(), SW_SHOWMINNOACTIVE);
 }
 
 void SharedMainWindow::makeAsNew() {
