@@ -41,7 +41,7 @@ TEST_P(CommandProcessor, GatesRefuseWithTheirAlerts) {
         {11, "Quick Edit the Command Prompt", true, kNamingNt, true},
         {12, "Run Startup Programs in Command Prompt", false, kNamingNt, false},
     };
-    for (const std::string_view windows : kAllWindows) {
+    for (const std::string_view windows : everyWindows()) {
         for (const auto& each : cases) {
             SCOPED_TRACE(std::string(windows) + ' ' + each.title);
             const bool accepted =

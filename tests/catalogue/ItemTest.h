@@ -12,8 +12,6 @@
 
 namespace korvane {
 
-constexpr std::string_view kAllWindows[] = {"95", "98", "me", "nt4", "2000", "xp", "2003", "vista"};
-
 // Items that share a gate: the Windows versions that they accept, with a blank around each, and what they say on
 // others.
 struct GateCase {
@@ -54,7 +52,7 @@ protected:
 
     // Every Windows either lets an item pass without a word, or hears its alert and keeps registry, page and date.
     void expectGates(std::span<const GateCase> gates, std::string_view keys) {
-        for (const std::string_view windows : kAllWindows) {
+        for (const std::string_view windows : everyWindows()) {
             for (const GateCase& gate : gates) {
                 const bool accepted = gate.accepted.find(' ' + std::string(windows) + ' ') != std::string_view::npos;
                 for (const int id : gate.ids) {

@@ -356,7 +356,7 @@ TEST_P(Login, TheLastUserNameIsHiddenWhereTheFamilyLooksForIt) {
 
 TEST_P(Login, TheLegalNoticeIsWhereTheFamilyLooksForIt) {
     const std::string values = "\"LegalNoticeCaption\"=\"Old title\"\n\"LegalNoticeText\"=\"Old text\"\n";
-    for (const std::string_view windows : kAllWindows) {
+    for (const std::string_view windows : everyWindows()) {
         SCOPED_TRACE(windows);
         const bool nt = windows == "nt4" || windows == "2000" || windows == "xp" || windows == "2003";
         const std::string& own = nt ? kWinlogon : kWinlogon9x;

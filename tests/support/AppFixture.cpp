@@ -133,6 +133,13 @@ Program& OverPrograms::start(const Situation& situation) {
     return *program_;
 }
 
+std::vector<std::string_view> OverPrograms::everyWindows() {
+    if (!GetParam().quick) {
+        return {"98", "xp"};
+    }
+    return {"95", "98", "me", "nt4", "2000", "xp", "2003", "vista"};
+}
+
 std::string OverPrograms::changes() {
     const std::string now = program_->registryText();
     std::string found = registryChanges(before_, now);

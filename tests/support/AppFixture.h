@@ -98,6 +98,8 @@ protected:
     // Ends the program of before. The first day is 6/15/2005, the days of later applies are 7/16/2006.
     Program& start(const Situation& situation);
     Program& program() { return *program_; }
+    // The Windows versions for tests of what all of them do; where starting takes long, one of each family.
+    static std::vector<std::string_view> everyWindows();
     // Since the last call of this function, or since the start.
     std::string changes();
 
