@@ -12,7 +12,6 @@ install_missing "${build_packages[@]}" "${mingw_packages[@]}" "${wine_packages[@
 # Makes the prefix, imports the sample and shows that the window comes up.
 env -u DISPLAY ./run
 cmake --build --preset win64 --target select_row
-use_wine_prefix "$PWD/build/wine"
 
 rm -rf build/tour
 mkdir -p build/tour
@@ -21,12 +20,13 @@ display_pid=$!
 until [ -s build/tour/display ]; do sleep 0.1; done
 DISPLAY=:$(cat build/tour/display)
 export DISPLAY
+use_wine_prefix "$PWD/build/wine"
 wine build/win64/program/KorvaneManager.exe </dev/null >/dev/null 2>&1 &
 program_pid=$!
 finish() {
     kill "$program_pid" 2>/dev/null || true
     wait "$program_pid" 2>/dev/null || true
-    timeout 15 wineserver -w || true
+    wineserver -k || true
     kill "$display_pid" 2>/dev/null || true
     rm -f build/tour/display
 }
