@@ -3,6 +3,7 @@
 
 #include "app/AboutDlg.h"
 #include "app/StringTable.h"
+#include "platform/EqualIgnoringCase.h"
 #include "platform/MessageBoxes.h"
 #include "res/ControlIds.h"
 
@@ -205,6 +206,12 @@ void CMainDlg::OnApplyChanges() {
 void CMainDlg::OnAbout() {
     CAboutDlg about(*this, language_);
     window_.runAboutBox(about);
+}
+
+void CMainDlg::OnFrameButton(const std::string& name) {
+    if (equalIgnoringCase(name, "Help")) {
+        window_.sendShowHelp();
+    }
 }
 
 void CMainDlg::OnDestroy() { skin_ = nullptr; }

@@ -28,6 +28,7 @@ public:
     void OnApplyChanges() override;
     void OnAbout() override;
     void OnHelp() override { app_.ShowHelp(); }
+    void OnFrameButton(const std::string& name) override;
     void OnDividerMoved(int distance) override;
     void OnDestroy() override;
 

@@ -20,6 +20,14 @@ native_packages=(
     /usr/bin/python3:python3
     /usr/src/googletest/googletest/CMakeLists.txt:googletest
 )
+# The native compiler builds the generator of the help.
+help_packages=(
+    /usr/bin/g++:g++
+    /usr/bin/chmcmd:fp-utils
+)
+help_check_packages=(
+    /usr/bin/extract_chmLib:libchm-bin
+)
 wine_packages=(
     /usr/bin/wine:wine
     /usr/lib/wine/wine64:wine64

@@ -71,18 +71,19 @@ TEST(Help, OpensTheFileOfTheLanguageWhetherOrNotItExists) {
         const char* executable;
         const char* language;
         const char* file;
+        const char* button;  // of the frame, as a skin may spell it
     } const cases[] = {
-        {"C:\\Korvane\\KorvaneManager.exe", "English", "C:\\Korvane\\Help\\English.chm"},
-        {"C:\\Korvane\\KorvaneManager.exe", "Deutsch", "C:\\Korvane\\Help\\Deutsch.chm"},
-        {"C:\\KorvaneManager.exe", "English", "C:\\Help\\English.chm"},
-        {"D:\\My Tools\\a.b\\x.exe", "", "D:\\My Tools\\a.b\\Help\\.chm"},
+        {"C:\\Korvane\\KorvaneManager.exe", "English", "C:\\Korvane\\Help\\English.chm", "Help"},
+        {"C:\\Korvane\\KorvaneManager.exe", "Deutsch", "C:\\Korvane\\Help\\Deutsch.chm", "HELP"},
+        {"C:\\KorvaneManager.exe", "English", "C:\\Help\\English.chm", "help"},
+        {"D:\\My Tools\\a.b\\x.exe", "", "D:\\My Tools\\a.b\\Help\\.chm", "hELp"},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.file);
         MemoryProgram program("[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"Language\"=\"" +
                               std::string(each.language) + "\"\n");
         ASSERT_TRUE(program.start(each.executable));
-        ASSERT_TRUE(program.window.pressHelp());
+        ASSERT_TRUE(program.window.pressFrameButton(each.button));
         ASSERT_EQ(program.system.help.calls.size(), 1u);
         EXPECT_EQ(program.system.help.calls[0].file, each.file);
         EXPECT_EQ(program.system.help.calls[0].caller, 0u);

@@ -103,6 +103,7 @@ public:
     void runAboutBox(DialogHandler&) override {}
     void redrawAll() override {}
     void postClose() override { log_.add("close"); }
+    void sendShowHelp() override { log_.add("help"); }
 
 private:
     void setFile(const std::string& path) override { log_.add("splash " + path); }

@@ -1,0 +1,366 @@
+// Writing the pages. They are XHTML 1.0 without what old browsers stumble
+// over: plain ASCII, every element closed, an anchor by name and by id.
+#include "app/HelpPages.h"
+
+#include "app/BindingText.h"
+#include "app/HelpProject.h"
+#include "app/HelpTopics.h"
+#include "catalogue/Catalogue.h"
+#include "pages/PageLayout.h"
+#include "res/ControlIds.h"
+
+#include <algorithm>
+
+namespace korvane {
+namespace {
+
+constexpr std::string_view kGuide[] = {"start.html",     "pages.html", "reading.html", "dates.html",
+                                       "languages.html", "skins.html", "kmctl.html",   "problems.html"};
+
+// More states than this are a list, fewer stand in one line.
+constexpr std::size_t kStatesInOneLine = 3;
+
+// ---- HTML
+
+std::string element(std::string_view name, const std::string& content) {
+    return "<" + std::string(name) + ">" + content + "</" + std::string(name) + ">";
+}
+
+std::string styled(std::string_view name, std::string_view style, const std::string& content) {
+    return "<" + std::string(name) + " class=\"" + std::string(style) + "\">" + content + "</" + std::string(name) +
+           ">";
+}
+
+std::string link(const std::string& address, const std::string& content) {
+    return "<a href=\"" + escapeHtml(address) + "\">" + content + "</a>";
+}
+
+std::string linkTo(int id) { return link(helpAddress(id), escapeHtml(findTweak(id)->title)); }
+std::string linkTo(const HelpTopic& topic) { return link(topic.file, escapeHtml(topic.title)); }
+
+HelpFile page(const std::string& name, const std::string& title, const std::string& body) {
+    return {name,
+            "<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Strict//EN\" "
+            "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-strict.dtd\">\n"
+            "<html xmlns=\"http://www.w3.org/1999/xhtml\" lang=\"en\" xml:lang=\"en\">\n<head>\n"
+            "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=us-ascii\" />\n"
+            "<title>" +
+                title +
+                "</title>\n"
+                "<link rel=\"stylesheet\" type=\"text/css\" href=\"help.css\" />\n</head>\n<body>\n" +
+                body + "</body>\n</html>\n"};
+}
+
+// "Contents > Accessories > "
+std::string pathTo(const std::vector<HelpTopic>& topics, const HelpTopic& topic) {
+    std::string above;
+    for (int at = topic.parent; at >= 0; at = topics[static_cast<std::size_t>(at)].parent) {
+        above = linkTo(topics[static_cast<std::size_t>(at)]) + " &gt; " + above;
+    }
+    return styled("p", "path", link("index.html", "Contents") + " &gt; " + above + escapeHtml(topic.title)) + "\n";
+}
+
+std::string heading(std::string_view name, int id) {
+    const std::string anchor = "item" + std::to_string(id);
+    return element(name,
+                   "<a name=\"" + anchor + "\" id=\"" + anchor + "\">" + escapeHtml(findTweak(id)->title) + "</a>") +
+           "\n";
+}
+
+// ---- Texts of the catalogue
+
+std::string html(const TextPiece& piece) {
+    return piece.literal ? element("code", escapeHtml(piece.text)) : escapeHtml(piece.text);
+}
+
+std::string html(const TextLine& line) {
+    std::string text;
+    for (const TextPiece& piece : line) {
+        text += html(piece);
+    }
+    return text;
+}
+
+// A control's text in one line.
+std::string label(std::string_view text) {
+    std::string result(text.substr(0, text.find_last_not_of(" \r\n") + 1));
+    std::ranges::replace(result, '\n', ' ');
+    return escapeHtml(result);
+}
+
+// "Note:" and its text stand in one paragraph; further lines are lines here too.
+std::string note(std::string_view text) {
+    constexpr std::string_view kNewLine = "<br />\n";
+    std::string result;
+    for (const char c : escapeHtml(text)) {
+        if (c == '\t' && result.ends_with(kNewLine)) {
+            result.replace(result.size() - kNewLine.size(), kNewLine.size(), " ");
+        } else if (c == '\n') {
+            result += kNewLine;
+        } else if (c != '\r') {
+            result += c;
+        }
+    }
+    return result;
+}
+
+// The states of a control are parted by pieces of their own.
+std::string states(const TextLine& line) {
+    std::vector<std::string> parts(1);
+    for (const TextPiece& piece : line) {
+        if (!piece.literal && piece.text == "; ") {
+            parts.emplace_back();
+        } else {
+            parts.back() += html(piece);
+        }
+    }
+    const bool list = parts.size() > kStatesInOneLine;
+    std::string text;
+    for (const std::string& part : parts) {
+        text += list ? element("li", part) : (text.empty() ? "" : "; ") + part;
+    }
+    return list ? element("ul", text) : text;
+}
+
+// ---- The controls of a tweak
+
+struct ControlsText {
+    const Tweak& tweak;
+    std::string text = {};
+
+    void add(std::string_view name, std::string_view kind, int control, const BindingText& binding) {
+        text += "<dt>" + (name.empty() ? "" : element("b", label(name)) + " ");
+        text += styled("span", "kind", std::string(kind) + ' ' + std::to_string(control)) + "</dt>\n";
+        for (const TextLine& place : binding.places) {
+            text += element("dd", html(place)) + "\n";
+        }
+        if (!tweak.showOnly) {
+            for (const TextLine& effect : binding.effects) {
+                text += element("dd", states(effect)) + "\n";
+            }
+        }
+    }
+
+    // The rows of a list that stand for no number.
+    void addRows(const Table& table) {
+        std::string rows;
+        for (const TableColumn& column : table.columns) {
+            rows += element("th", escapeHtml(column.heading));
+        }
+        rows = element("tr", rows);
+        const std::size_t columns = table.columns.size();
+        for (std::size_t row = 0; row * columns < table.cells.size(); ++row) {
+            std::string cells;
+            for (const std::string_view cell : table.cells.subspan(row * columns, columns)) {
+                cells += element("td", escapeHtml(cell));
+            }
+            rows += element("tr", cells);
+        }
+        text += element("dd", element("table", rows)) + "\n";
+    }
+};
+
+void addList(ControlsText& controls) {
+    const Tweak& tweak = controls.tweak;
+    const BindingText binding = describe(*tweak.table);
+    const bool checked = tweak.page == Page::CheckList;
+    controls.add({}, checked ? "list of check boxes" : "list", layoutOf(tweak.page).list, binding);
+    if (binding.effects.empty() && !tweak.table->cells.empty()) {
+        controls.addRows(*tweak.table);
+    }
+}
+
+// In the order of the page, top to bottom.
+std::string controlsOf(const Tweak& tweak) {
+    ControlsText controls{.tweak = tweak};
+    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
+        controls.add(tweak.boxes[i].text, "check box", boxControl(tweak, i), describe(tweak.boxes[i]));
+    }
+    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
+        const Field& field = tweak.fields[i];
+        controls.add(field.label, "edit box", fieldControls(tweak, i).edit, describe(field));
+    }
+    if (tweak.colour != nullptr) {
+        controls.add(tweak.colour->label, "color list", IDC_COLOUR_COMBO, describe(*tweak.colour));
+    }
+    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
+        const Choice& choice = tweak.choices[i];
+        controls.add(choice.label, "combo box", choiceControls(tweak, i).combo, describe(choice));
+    }
+    if (tweak.table != nullptr) {
+        addList(controls);
+    }
+    return controls.text.empty() ? controls.text : "<dl>\n" + controls.text + "</dl>\n";
+}
+
+// ---- A tweak
+
+std::string facts(const Tweak& tweak) {
+    std::string text = "ItemId " + std::to_string(tweak.id) + ". ";
+    if (!tweak.hasShow()) {
+        return text + "Kept in the table, without a page: there is nothing to change.";
+    }
+    if (tweak.overview != nullptr) {
+        text += "A category; its overview lists";
+        for (const OverviewRow& row : tweak.overview->rows) {
+            text += (text.ends_with("lists") ? " " : ", ") + linkTo(row.id);
+        }
+        return text + '.';
+    }
+    const std::string versions = windowsVersions(tweak.gate.accepted);
+    text += (versions.empty() ? "Every Windows" : versions) + '.';
+    return text + (tweak.showOnly ? " The page only shows what is set; nothing is written." : "");
+}
+
+std::string registryLine(std::string_view name, std::string_view text) {
+    return text.empty() ? "" : element("p", std::string(name) + ": " + html(markedText(text))) + "\n";
+}
+
+std::string entry(const Tweak& tweak) {
+    std::string text = heading("h2", tweak.id) + element("p", escapeHtml(tweak.description)) + "\n" +
+                       styled("p", "facts", facts(tweak)) + "\n";
+    if (!tweak.hasShow() || tweak.overview != nullptr) {
+        return text;
+    }
+    text += controlsOf(tweak) + registryLine("Registry", tweak.registry) + registryLine("Source", tweak.source);
+    return text + (tweak.note.empty() ? "" : styled("p", "note", note(tweak.note)) + "\n");
+}
+
+// ---- The pages
+
+std::string introduction(const HelpTopic& topic) {
+    if (topic.category >= 0) {
+        return heading("h1", topic.category) + element("p", escapeHtml(findTweak(topic.category)->description)) + "\n";
+    }
+    const std::string text = topic.inTree ? "These rows stand at the top level of the tree, below the categories."
+                                          : "These records have no row in the tree of the window. " +
+                                                link("kmctl.html", "kmctl") +
+                                                " shows and applies them by their ItemId or their title.";
+    return element("h1", escapeHtml(topic.title)) + "\n" + element("p", text) + "\n";
+}
+
+HelpFile topicPage(const std::vector<HelpTopic>& topics, const HelpTopic& topic) {
+    std::string links;
+    for (const HelpTopic& below : topics) {
+        if (below.parent >= 0 && &topics[static_cast<std::size_t>(below.parent)] == &topic) {
+            links += element("li", styled("span", "category", linkTo(below))) + "\n";
+        }
+    }
+    std::string entries;
+    for (const int id : topic.items) {
+        links += element("li", link("#item" + std::to_string(id), escapeHtml(findTweak(id)->title))) + "\n";
+        entries += entry(*findTweak(id));
+    }
+    const std::string body =
+        pathTo(topics, topic) + introduction(topic) + element("ul", "\n" + links) + "\n" + entries +
+        styled("p", "foot", "What the terms mean: " + link("reading.html", "Reading the Tweak Pages")) + "\n";
+    return page(topic.file, escapeHtml(topic.title), body);
+}
+
+// The topics below one, or those at the top, as lists within lists.
+std::string topicList(const std::vector<HelpTopic>& topics, int parent, bool inTree) {
+    std::string list;
+    for (std::size_t i = 0; i < topics.size(); ++i) {
+        if (topics[i].parent == parent && topics[i].inTree == inTree) {
+            list += element("li", linkTo(topics[i]) + topicList(topics, static_cast<int>(i), inTree)) + "\n";
+        }
+    }
+    return list.empty() ? list : "\n<ul>\n" + list + "</ul>\n";
+}
+
+HelpFile contentsPage(const std::vector<HelpTopic>& topics, std::span<const HelpFile> guide) {
+    std::string pages;
+    for (const HelpFile& written : guide) {
+        pages += element("li", link(written.name, titleOfPage(written))) + "\n";
+    }
+    return page("index.html", "Korvane Manager Help",
+                "<h1>Korvane Manager Help</h1>\n<ul>\n" + pages + "</ul>\n<h2>The tweaks</h2>\n<p>" +
+                    link("all-tweaks.html", "All Tweaks from A to Z") + ", or by the categories of the tree:</p>" +
+                    topicList(topics, -1, true) + "<h2>Not in the tree</h2>\n<p>Reachable with " +
+                    link("kmctl.html", "kmctl") + " alone:</p>" + topicList(topics, -1, false));
+}
+
+char initialOf(int id) { return findTweak(id)->title.front(); }
+
+HelpFile allTweaksPage() {
+    std::vector<int> ids;
+    for (int id = 0; id < kItemCount; ++id) {
+        if (findTweak(id)->hasShow() && !findTweak(id)->isCategory()) {
+            ids.push_back(id);
+        }
+    }
+    std::ranges::stable_sort(ids, {}, [](int id) { return lowerCase(findTweak(id)->title); });
+    std::string letters;
+    std::string body;
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        if (i == 0 || initialOf(ids[i]) != initialOf(ids[i - 1])) {
+            const std::string letter(1, initialOf(ids[i]));
+            letters += link("#" + letter, letter) + "\n";
+            body.append(i == 0 ? "" : "</ul>\n");
+            body += "<h2><a name=\"" + letter + "\" id=\"" + letter + "\">" + letter + "</a></h2>\n<ul>\n";
+        }
+        body +=
+            element("li", linkTo(ids[i]) + styled("span", "kind", " " + escapeHtml(helpTopicOf(ids[i]).title))) + "\n";
+    }
+    return page("all-tweaks.html", "All Tweaks from A to Z",
+                styled("p", "path", link("index.html", "Contents") + " &gt; All Tweaks from A to Z") +
+                    "\n<h1>All Tweaks from A to Z</h1>\n" + styled("p", "letters", letters) + "\n" + body + "</ul>\n");
+}
+
+// What stands between two marks; empty when they are not there.
+std::string_view between(std::string_view text, std::string_view start, std::string_view end) {
+    const std::size_t from = text.find(start);
+    const std::size_t to = from == std::string_view::npos ? from : text.find(end, from + start.size());
+    return to == std::string_view::npos ? "" : text.substr(from + start.size(), to - from - start.size());
+}
+
+}  // namespace
+
+std::span<const std::string_view> helpGuide() { return kGuide; }
+
+std::string escapeHtml(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        switch (c) {
+            case '&': result += "&amp;"; break;
+            case '<': result += "&lt;"; break;
+            case '>': result += "&gt;"; break;
+            case '"': result += "&quot;"; break;
+            default: result += c;
+        }
+    }
+    return result;
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return result;
+}
+
+std::string titleOfPage(const HelpFile& page) { return std::string(between(page.text, "<title>", "</title>")); }
+
+std::vector<std::string> keywordsOfPage(const HelpFile& page) {
+    const std::string_view list = between(page.text, "<meta name=\"keywords\" content=\"", "\"");
+    std::vector<std::string> keywords;
+    for (std::size_t start = 0; start < list.size();) {
+        const std::size_t end = std::min(list.find(", ", start), list.size());
+        keywords.emplace_back(list.substr(start, end - start));
+        start = end + 2;
+    }
+    return keywords;
+}
+
+std::vector<HelpFile> makeHelp(std::span<const HelpFile> guide) {
+    const std::vector<HelpTopic> topics = helpTopics();
+    std::vector<HelpFile> files{contentsPage(topics, guide), allTweaksPage()};
+    for (const HelpTopic& topic : topics) {
+        files.push_back(topicPage(topics, topic));
+    }
+    const std::vector<HelpFile> project = makeHelpProject(guide, files);
+    files.insert(files.end(), project.begin(), project.end());
+    return files;
+}
+
+}  // namespace korvane
