@@ -26,6 +26,8 @@ Commands:
   apply ITEM [CONTROL=VALUE ...]
                        Selects an item, sets controls of its page in the order
                        given, presses "Apply Changes" and says what happened.
+  check-skin FILE      Reads a skin file, or a splash file (.spl), and the
+                       pictures beside it, and names every mistake with its line.
 
 ITEM is an ItemId or a title. CONTROL is a control's number, as show prints it:
   1013=1               sets a check box (0 clears it)
@@ -137,7 +139,10 @@ struct CommandName {
     Command command;
 };
 
-constexpr CommandName kCommands[] = {{"list", Command::List}, {"show", Command::Show}, {"apply", Command::Apply}};
+constexpr CommandName kCommands[] = {{"list", Command::List},
+                                     {"show", Command::Show},
+                                     {"apply", Command::Apply},
+                                     {"check-skin", Command::CheckSkin}};
 
 class Parser {
 public:
@@ -204,7 +209,7 @@ private:
 
     bool readCommand() {
         if (words_.empty()) {
-            return fail("a command is missing: list, show or apply");
+            return fail("a command is missing: list, show, apply or check-skin");
         }
         const auto* found = std::ranges::find(kCommands, words_[0], &CommandName::name);
         if (found == std::end(kCommands)) {
@@ -213,12 +218,15 @@ private:
         line_.command = found->command;
         const std::size_t expected = line_.command == Command::List ? 1 : 2;
         if (words_.size() < expected || words_[expected - 1].empty()) {
-            return fail(words_[0] + " needs an item: its ItemId or its title");
+            return fail(words_[0] + (line_.command == Command::CheckSkin ? " needs a file: a skin or a splash"
+                                                                         : " needs an item: its ItemId or its title"));
         }
         if (line_.command != Command::Apply && words_.size() > expected) {
             return fail("unexpected argument " + quotedForMessage(words_[expected]));
         }
-        line_.item = expected == 2 ? words_[1] : std::string();
+        if (expected == 2) {
+            (line_.command == Command::CheckSkin ? line_.skinFile : line_.item) = words_[1];
+        }
         return readAssignments();
     }
 
@@ -244,6 +252,9 @@ private:
     bool checkOptions() {
         if (line_.all && line_.command != Command::List) {
             return fail("--all belongs to list");
+        }
+        if (line_.command == Command::CheckSkin && !given_.empty()) {
+            return fail(std::string(given_.front()->name) + " does not belong to check-skin");
         }
         if (line_.language && !line_.programFolder) {
             return fail("--language needs --program-folder, where the language files are");

@@ -14,7 +14,7 @@
 
 namespace korvane {
 
-enum class Command : std::uint8_t { List, Show, Apply, Help, Version };
+enum class Command : std::uint8_t { List, Show, Apply, CheckSkin, Help, Version };
 
 // CONTROL=VALUE, or CONTROL:ROW=VALUE for the check box of a list's row.
 struct Assignment {
@@ -30,6 +30,7 @@ struct CommandLine {
     bool all = false;                       // list: the records without a row in the tree too
     std::string item{};                     // show, apply: an ItemId or a title
     std::vector<Assignment> assignments{};  // apply: in the order given
+    std::string skinFile{};                 // check-skin: a skin file or a splash file
 
     std::optional<std::string> registry{};
     std::optional<std::string> programFolder{};

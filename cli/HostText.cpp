@@ -37,6 +37,8 @@ std::string toUtf8(std::string_view text, ProgramText encoding) {
 
 std::string toHost(std::string_view text) { return std::string(text); }
 
+std::string fileNameToUtf8(std::string_view name) { return toUtf8(name, ProgramText::SystemCodePage); }
+
 std::optional<std::string> fromArgument(std::string_view argument, ProgramText encoding) {
     if (encoding == ProgramText::SystemCodePage) {
         return std::string(argument);
@@ -50,6 +52,9 @@ std::optional<std::string> fromArgument(std::string_view argument, ProgramText e
 std::string toUtf8(std::string_view text, ProgramText) { return toUtf8(fromAnsi(text)); }
 
 std::string toHost(std::string_view text) { return toUtf8(fromAnsi(text)); }
+
+// A file's name may hold any bytes.
+std::string fileNameToUtf8(std::string_view name) { return toUtf8(fromUtf8(name).value_or(fromAnsi(name))); }
 
 std::optional<std::string> fromArgument(std::string_view argument, ProgramText) {
     const std::optional<std::u16string> text = fromUtf8(argument);

@@ -17,6 +17,9 @@ std::string toUtf8(std::string_view text, ProgramText encoding);
 // The same as this system's terminals and files take it: UTF-8, on Windows the bytes as they are.
 std::string toHost(std::string_view text);
 
+// A file name as the system gives it, for JSON.
+std::string fileNameToUtf8(std::string_view name);
+
 // Nothing when an argument has a character that the program's texts cannot hold.
 std::optional<std::string> fromArgument(std::string_view argument, ProgramText encoding);
 

@@ -2,6 +2,7 @@
 #include "cli/Run.h"
 
 #include "catalogue/Catalogue.h"
+#include "cli/CheckSkin.h"
 #include "cli/CommandLine.h"
 #include "cli/Json.h"
 #include "cli/PageControls.h"
@@ -245,6 +246,8 @@ int run(std::span<const std::string> arguments, std::string& out, std::string& e
         out += helpText();
     } else if (options.command == Command::Version) {
         out += "kmctl " + std::string(kProgramVersion) + '\n';
+    } else if (options.command == Command::CheckSkin) {
+        return static_cast<int>(checkSkin(options, out, err));
     } else {
         return static_cast<int>(Runner(options, out, err).run());
     }

@@ -21,7 +21,9 @@ void require(bool condition) {
 void checkUnderstood(const korvane::CommandLine& line) {
     using korvane::Command;
     const bool asks = line.command == Command::Help || line.command == Command::Version;
-    require(asks || line.command == Command::List || !line.item.empty());
+    const bool checksSkin = line.command == Command::CheckSkin;
+    require(asks || line.command == Command::List || !(checksSkin ? line.skinFile : line.item).empty());
+    require(!checksSkin || (!line.registry && !line.programFolder && !line.all));
     require(asks || line.registry || (!line.windows && !line.drives && !line.windowsFolder && !line.appDataFolder));
     require(line.assignments.empty() || line.command == Command::Apply);
     for (const korvane::Assignment& assignment : line.assignments) {

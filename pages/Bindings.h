@@ -6,6 +6,7 @@
 
 #include "pages/OsVersion.h"
 #include "platform/RegistryAccess.h"
+#include "platform/EqualIgnoringCase.h"
 #include "platform/ReplaceAll.h"
 #include "platform/DialogControls.h"
 
@@ -282,7 +283,6 @@ std::string formatColour(Colour colour);
 int decimalNumber(std::string_view text);
 // The user's profile folder with its separator; empty where Windows has no profiles.
 std::string profilePrefix(const PageContext& context);
-bool equalIgnoringCase(std::string_view left, std::string_view right);
 bool matches(std::string_view stored, std::string_view wanted, Compare compare);
 
 }  // namespace korvane

@@ -7,8 +7,6 @@
 namespace korvane {
 namespace {
 
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 bool isSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 }  // namespace
@@ -28,10 +26,6 @@ int decimalNumber(std::string_view text) {
         number = std::min(number * 10 + (text[at] - '0'), kLimit);
     }
     return static_cast<int>(negative ? -number : std::min(number, kLimit - 1));
-}
-
-bool equalIgnoringCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, {}, lower, lower);
 }
 
 bool matches(std::string_view stored, std::string_view wanted, Compare compare) {

@@ -6,6 +6,7 @@
 #include "platform/SkinEngine.h"
 #include "platform/TreeListCtrl.h"
 
+#include <string>
 #include <string_view>
 
 namespace korvane {
@@ -35,6 +36,7 @@ public:
     virtual void runAboutBox(DialogHandler& handler) = 0;
     virtual void redrawAll() = 0;  // invalidates with erasing and updates at once
     virtual void postClose() = 0;
+    virtual void sendShowHelp() = 0;  // WM_USER+203, which is answered by OnHelp
 };
 
 // What the main window tells its owner.
@@ -46,6 +48,8 @@ public:
     virtual void OnApplyChanges() = 0;
     virtual void OnAbout() = 0;
     virtual void OnHelp() = 0;
+    // A button of the skin's frame was pressed, other than minimize and close.
+    virtual void OnFrameButton(const std::string& name) = 0;
     virtual void OnDividerMoved(int distance) = 0;  // pixels, positive to the right
     virtual void OnDestroy() = 0;
 };

@@ -97,13 +97,17 @@ public:
     // without regard to case. The look lives as long as this object and until it is loaded again.
     const ElementLook* element(std::string_view name, SkinProblem& problem) const;
 
+    // Those of the skin and those that it lacks.
+    std::size_t elementCount() const { return elements_.size(); }
+
     // The skin's values of the program's four colours, for when the program has none of its own.
     Pixel colour(ColourSource source) const { return colours_[static_cast<std::size_t>(source)]; }
 
     // Everything that is wrong, in the order of the file: for checking a skin.
-    std::vector<SkinProblem> problems() const;
+    std::vector<SkinProblem> problems() const { return problems_; }
 
 private:
+    class Loader;
     struct Entry {
         std::optional<ElementLook> look;  // none: problem says why
         SkinProblem problem;
@@ -112,6 +116,7 @@ private:
     std::string name_;
     std::map<std::string, Entry, std::less<>> elements_;  // by name in lower case
     std::array<Pixel, 5> colours_{};
+    std::vector<SkinProblem> problems_;
 };
 
 }  // namespace korvane

@@ -235,11 +235,11 @@ bool MemoryMainWindow::chooseSystemMenu(int commandId) {
     return true;
 }
 
-bool MemoryMainWindow::pressHelp() {
+bool MemoryMainWindow::pressFrameButton(const std::string& name) {
     if (!running_) {
         return false;
     }
-    handler_->OnHelp();
+    handler_->OnFrameButton(name);
     settle();
     return true;
 }

@@ -147,7 +147,7 @@ public:
     bool selectData(std::uint32_t data);
     bool clickApply();
     bool chooseSystemMenu(int commandId);
-    bool pressHelp();  // the skin's help button
+    bool pressFrameButton(const std::string& name);  // of the skin's frame
     // Drags the divider so many pixels to the right, or as far as its range allows.
     bool dragDivider(int distance);
     bool close();
@@ -179,6 +179,7 @@ public:
     void redrawAll() override { ++timesRedrawn_; }
     // Closes the window once the handler has returned from what it is told at the moment.
     void postClose() override { closePosted_ = true; }
+    void sendShowHelp() override { handler_->OnHelp(); }
 
 private:
     // Passes the window's own button on.

@@ -2,6 +2,8 @@
 // tree view and of the header on to the one or the other.
 #include "platform/win32/TreeListCtrl.h"
 
+#include "platform/win32/PictureLoader.h"
+
 namespace korvane {
 namespace {
 
@@ -24,6 +26,15 @@ TVITEMA itemToChange(CTreeListItem item, UINT mask) {
 LPSTR inputText(const std::string& text) { return const_cast<LPSTR>(text.c_str()); }
 
 }  // namespace
+
+void Win32TreeListCtrl::Background::load(const std::string& path, int& width, int& height) {
+    const HBITMAP old = bitmap_;
+    bitmap_ = loadPictureFile(path, width, height);
+    SendMessageA(window_, kTreeSetPicture, reinterpret_cast<WPARAM>(bitmap_), 0);
+    if (old != nullptr) {
+        DeleteObject(old);
+    }
+}
 
 LRESULT Win32TreeListCtrl::send(UINT message, WPARAM wParam, LPARAM lParam) const {
     return SendMessageA(window_, message, wParam, lParam);

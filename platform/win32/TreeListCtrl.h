@@ -12,6 +12,8 @@ namespace korvane {
 
 constexpr char kTreeListClass[] = "Trellis.TreeListCtrl";
 constexpr UINT kTreeSelectionChanged = WM_USER + 202;
+// To the window: wParam is the bitmap to be drawn behind the rows, which it borrows, or null for none.
+constexpr UINT kTreeSetPicture = WM_USER + 210;
 
 // Needed before a dialog with such a control can be made.
 void registerTreeListClass(HINSTANCE instance);
@@ -22,7 +24,7 @@ void registerTreeListClass(HINSTANCE instance);
 class Win32TreeListCtrl final : public CTreeListCtrl {
 public:
     // The window is borrowed, and so is the image list, which is the window's from SetImageList on.
-    explicit Win32TreeListCtrl(HWND window) : window_(window) {}
+    explicit Win32TreeListCtrl(HWND window) : window_(window), background_(window) {}
     void offerImageList(HIMAGELIST images) { images_ = images; }
 
     void SetStyle(std::uint32_t) override {}
@@ -42,9 +44,14 @@ public:
     bool GetSelectedItemData(std::uint32_t& data) override;
 
 private:
-    class PlainBackground final : public BackgroundImage {
+    class Background final : public BackgroundImage {
     public:
-        void load(const std::string&, int& width, int& height) override { width = height = 0; }
+        explicit Background(HWND window) : window_(window) {}
+        void load(const std::string& path, int& width, int& height) override;
+
+    private:
+        HWND window_;
+        HBITMAP bitmap_ = nullptr;  // stays until the next one is loaded or the program ends
     };
 
     LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) const;
@@ -52,7 +59,7 @@ private:
 
     HWND window_;
     HIMAGELIST images_ = nullptr;
-    PlainBackground background_;
+    Background background_;
 };
 
 }  // namespace korvane

@@ -1,5 +1,6 @@
 // The window itself: heading and tree view, one below the other, and the few
 // things in which it differs from the platform's tree view.
+#include "platform/win32/TreeBackground.h"
 #include "platform/win32/TreeListCtrl.h"
 
 #include <memory>
@@ -8,6 +9,7 @@ namespace korvane {
 namespace {
 
 constexpr UINT kMessagesOfOneControl = 0x100;
+constexpr COLORREF kSystemColour = 0xFFFFFFFF;  // of a tree view that was given no background colour
 
 bool isOf(UINT message, UINT first) { return message >= first && message < first + kMessagesOfOneControl; }
 
@@ -21,6 +23,24 @@ bool movesSelection(WPARAM key) {
         case VK_END:
         case VK_PRIOR:
         case VK_NEXT: return true;
+        default: return false;
+    }
+}
+
+// What makes a tree view scroll its window's pixels, or move some of them up or down.
+bool movesRows(UINT message) {
+    constexpr UINT kHorizontalWheel = 0x020E;  // of Windows Vista
+    switch (message) {
+        case WM_VSCROLL:
+        case WM_HSCROLL:
+        case WM_MOUSEWHEEL:
+        case kHorizontalWheel:
+        case WM_KEYDOWN:
+        case WM_CHAR:
+        case WM_LBUTTONDBLCLK:
+        case TVM_EXPAND:
+        case TVM_ENSUREVISIBLE:
+        case TVM_SELECTITEM: return true;
         default: return false;
     }
 }
@@ -51,6 +71,7 @@ private:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT onNotify(const NMHDR& notification);
     LRESULT handleTree(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT handleOverPicture(UINT message, WPARAM wParam, LPARAM lParam);
 
     LRESULT callTreeView(UINT message, WPARAM wParam, LPARAM lParam) {
         return CallWindowProcA(treeView_, tree_, message, wParam, lParam);
@@ -61,7 +82,15 @@ private:
     void setFont(WPARAM font, LPARAM redraw);
     void layOut();
     void alignHeader();
+
+    void setPicture(HBITMAP bitmap);
+    LRESULT onPress(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT moveRows(UINT message, WPARAM wParam, LPARAM lParam);
+    void resumeDrawing();
+
     void paintTree();
+    void paintPlain(HDC screen, const RECT& part);
+    bool paintOverPicture(HDC target, const RECT& part);
 
     HWND window_;
     HWND header_ = nullptr;
@@ -69,6 +98,8 @@ private:
     WNDPROC treeView_ = nullptr;
     bool gettingFocus_ = false;
     bool changingRows_ = false;
+    bool drawingPaused_ = false;
+    TreeBackground background_;
     int scrolledBy_ = 0;  // pixels to the left
 };
 
@@ -101,6 +132,7 @@ LRESULT TreeListWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return SendMessageA(header_, message, wParam, lParam);
     }
     switch (message) {
+        case kTreeSetPicture: setPicture(reinterpret_cast<HBITMAP>(wParam)); return 0;
         case WM_NOTIFY: return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
         case WM_SETFOCUS: SetFocus(tree_); return 0;
         case WM_ENABLE: EnableWindow(tree_, wParam != 0); return 0;
@@ -123,6 +155,7 @@ LRESULT TreeListWindow::onNotify(const NMHDR& notification) {
         case TVN_SELCHANGEDA:
         case TVN_SELCHANGEDW:
             if (!changingRows_) {
+                resumeDrawing();  // what the parent does may take long, or show a message box
                 SendMessageA(GetParent(window_), kTreeSelectionChanged, 0, 0);
             }
             return 0;
@@ -168,7 +201,29 @@ LRESULT TreeListWindow::handleTree(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         default: break;
     }
-    return callTreeView(message, wParam, lParam);
+    return background_.isShown() ? handleOverPicture(message, wParam, lParam) : callTreeView(message, wParam, lParam);
+}
+
+LRESULT TreeListWindow::handleOverPicture(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK: return onPress(message, wParam, lParam);
+        case WM_SIZE: {  // the picture moves with the corner
+            const LRESULT result = callTreeView(message, wParam, lParam);
+            InvalidateRect(tree_, nullptr, FALSE);
+            return result;
+        }
+        case WM_PAINT:  // with a device context in which to paint
+        case WM_PRINTCLIENT: {
+            RECT client{};
+            GetClientRect(tree_, &client);
+            return paintOverPicture(reinterpret_cast<HDC>(wParam), client)
+                       ? 0
+                       : callTreeView(message, wParam, lParam);
+        }
+        default:
+            return movesRows(message) ? moveRows(message, wParam, lParam) : callTreeView(message, wParam, lParam);
+    }
 }
 
 void TreeListWindow::selectFirstRow() {
@@ -204,11 +259,67 @@ void TreeListWindow::alignHeader() {
     }
 }
 
-// The tree view draws into a picture in memory, which then comes to the screen at once: nothing flickers. Whatever has
-// scrolled the rows, they are painted afterwards, which makes this the place to look where the heading belongs.
+void TreeListWindow::setPicture(HBITMAP bitmap) {
+    background_.setPicture(bitmap);
+    InvalidateRect(tree_, nullptr, FALSE);
+}
+
+LRESULT TreeListWindow::onPress(UINT message, WPARAM wParam, LPARAM lParam) {
+    TVHITTESTINFO hit{};
+    hit.pt = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    SendMessageA(tree_, TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    if (hit.hItem != nullptr && (hit.flags & TVHT_ONITEMBUTTON) != 0) {
+        SetFocus(tree_);
+        SendMessageA(tree_, TVM_EXPAND, TVE_TOGGLE, reinterpret_cast<LPARAM>(hit.hItem));
+        return 0;
+    }
+    if (message == WM_LBUTTONDBLCLK) {
+        return moveRows(message, wParam, lParam);
+    }
+    // A press waits for a drag, during which the tree has to be seen.
+    const LRESULT result = callTreeView(message, wParam, lParam);
+    InvalidateRect(tree_, nullptr, FALSE);
+    return result;
+}
+
+// A tree view scrolls the pixels of its window, and would drag the picture along. The platform's default procedure makes
+// a window without drawing one that counts as hidden (the tree view itself would only remember not to draw), so nothing
+// is moved, and all is painted once afterwards. A window that is really hidden must not become visible this way.
+LRESULT TreeListWindow::moveRows(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (drawingPaused_ || (GetWindowLongA(tree_, GWL_STYLE) & WS_VISIBLE) == 0) {
+        return callTreeView(message, wParam, lParam);
+    }
+    drawingPaused_ = true;
+    DefWindowProcA(tree_, WM_SETREDRAW, FALSE, 0);
+    const LRESULT result = callTreeView(message, wParam, lParam);
+    resumeDrawing();
+    return result;
+}
+
+void TreeListWindow::resumeDrawing() {
+    if (drawingPaused_) {
+        drawingPaused_ = false;
+        DefWindowProcA(tree_, WM_SETREDRAW, TRUE, 0);
+        RedrawWindow(tree_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_NOERASE);
+    }
+}
+
+// Whatever has scrolled the rows, they are painted afterwards, which makes this the place to look where the heading
+// belongs.
 void TreeListWindow::paintTree() {
     PAINTSTRUCT paint{};
     const HDC screen = BeginPaint(tree_, &paint);
+    if (background_.isShown() && paintOverPicture(screen, paint.rcPaint)) {
+        ValidateRect(tree_, nullptr);  // a change of the background colour asks for another painting
+    } else {
+        paintPlain(screen, paint.rcPaint);
+    }
+    EndPaint(tree_, &paint);
+    alignHeader();
+}
+
+// The tree view draws into a picture in memory, which then comes to the screen at once: nothing flickers.
+void TreeListWindow::paintPlain(HDC screen, const RECT& part) {
     RECT client{};
     GetClientRect(tree_, &client);
     const HDC memory = CreateCompatibleDC(screen);
@@ -216,14 +327,25 @@ void TreeListWindow::paintTree() {
     const HGDIOBJ oldPicture = SelectObject(memory, picture);
     FillRect(memory, &client, GetSysColorBrush(COLOR_WINDOW));
     callTreeView(WM_PAINT, reinterpret_cast<WPARAM>(memory), 0);
-    const RECT& part = paint.rcPaint;
     BitBlt(screen, part.left, part.top, part.right - part.left, part.bottom - part.top, memory, part.left, part.top,
            SRCCOPY);
     SelectObject(memory, oldPicture);
     DeleteObject(picture);
     DeleteDC(memory);
-    EndPaint(tree_, &paint);
-    alignHeader();
+}
+
+bool TreeListWindow::paintOverPicture(HDC target, const RECT& part) {
+    RECT client{};
+    GetClientRect(tree_, &client);
+    const auto own = static_cast<COLORREF>(callTreeView(TVM_GETBKCOLOR, 0, 0));
+    const bool isPainted = background_.paint(
+        target, {client.right, client.bottom}, part, own == kSystemColour ? GetSysColor(COLOR_WINDOW) : own,
+        [this](HDC dc, COLORREF background) {
+            callTreeView(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(background));
+            callTreeView(WM_PAINT, reinterpret_cast<WPARAM>(dc), 0);
+        });
+    callTreeView(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(own));
+    return isPainted;
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include "platform/win32/Splitter.h"
 #include "platform/win32/Win32System.h"
 #include "res/ControlIds.h"
+#include "skin/SkinProperties.h"
+#include "skin/win32/SkinEngine.h"
 
 #include <string>
 
@@ -14,24 +16,14 @@ constexpr UINT kShowHelp = WM_USER + 203;
 // The low four bits of a system command are the platform's own.
 constexpr WPARAM kSystemCommandMask = 0xFFF0;
 
-// The places of skin engine and splash: windows that show what is below them. They stand below the pages.
-LRESULT CALLBACK engineProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ERASEBKGND) {
-        RECT area{};
-        GetClientRect(window, &area);
-        FillRect(reinterpret_cast<HDC>(wParam), &area, GetSysColorBrush(COLOR_3DFACE));
-        return 1;
-    }
-    return DefWindowProcA(window, message, wParam, lParam);
-}
+// What the resources hold for the dialog's controls: a resource of this type with the dialog's number.
+constexpr int kDialogInitResource = 240;
 
-void registerEngineClass(HINSTANCE instance, const char* name) {
-    WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = engineProc;
-    windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = name;
-    RegisterClassA(&windowClass);
+std::span<const std::byte> dialogInitData(HINSTANCE instance, int dialog) {
+    const HRSRC resource = FindResourceA(instance, MAKEINTRESOURCEA(dialog), MAKEINTRESOURCEA(kDialogInitResource));
+    const HGLOBAL loaded = resource != nullptr ? LoadResource(instance, resource) : nullptr;
+    const void* data = loaded != nullptr ? LockResource(loaded) : nullptr;
+    return {static_cast<const std::byte*>(data), data != nullptr ? SizeofResource(instance, resource) : 0};
 }
 
 void moveToBottom(HWND window) {
@@ -43,8 +35,8 @@ void moveToBottom(HWND window) {
 Win32MainWindow::Win32MainWindow(HINSTANCE instance, Win32System& system) : instance_(instance), system_(system) {
     registerTreeListClass(instance);
     registerSplitterClass(instance);
-    registerEngineClass(instance, "Korvane.SkinEngine");
-    registerEngineClass(instance, "Korvane.Splash");
+    registerSkinEngineClass(instance);
+    registerSplashClass(instance);
 }
 
 Win32MainWindow::~Win32MainWindow() {
@@ -81,11 +73,17 @@ void Win32MainWindow::onInitDialog(HWND window) {
     window_ = window;
     dialog_.emplace(window);
     tree_.emplace(GetDlgItem(window, IDC_TREE));
+    splash_.emplace(GetDlgItem(window, IDC_SPLASH));
     system_.setMainWindow(window);
     // The dialog does not erase what its children paint, which would flicker; pages cover the engines' places.
     SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | WS_CLIPCHILDREN);
     moveToBottom(GetDlgItem(window, IDC_SPLASH));
     centreWindow(window);
+    const HWND engine = GetDlgItem(window, IDC_SKIN);
+    initialiseSkinEngine(engine, controlData(dialogInitData(instance_, IDD_MAIN), IDC_SKIN));
+    if (Win32SkinEngine* skin = skinEngineOf(engine)) {
+        skin->setFrameButtonHandler([this](const std::string& name) { handler_->OnFrameButton(name); });
+    }
     handler_->OnInitDialog();
 }
 
@@ -103,6 +101,12 @@ INT_PTR Win32MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             changeAtOnce([this] { handler_->OnSelectionChanged(); });
             return TRUE;
         case kShowHelp: handler_->OnHelp(); return TRUE;
+        case WM_SHOWWINDOW:
+            if (wParam != 0) {
+                splash_->close();
+            }
+            return FALSE;
+        case WM_HELP: handler_->OnHelp(); return TRUE;  // F1
         case WM_PAINT: return paintIcon();
         case WM_QUERYDRAGICON: return reinterpret_cast<INT_PTR>(icon_);
         case WM_CLOSE: EndDialog(window_, IDCANCEL); return TRUE;
@@ -203,9 +207,15 @@ void Win32MainWindow::addImage(int bitmapResource, Colour mask) {
     DeleteObject(bitmap);
 }
 
+ISkinEngine* Win32MainWindow::skinEngine() { return skinEngineOf(GetDlgItem(window_, IDC_SKIN)); }
+
 void Win32MainWindow::createDivider(int controlId, int rangeLeft, int rangeRight) {
+    const HWND placeholder = GetDlgItem(window_, controlId);
     const HWND divider = createSplitter(instance_, window_, controlId, dialog_->controlRect(controlId), rangeLeft,
                                         rangeRight);
+    if (Win32SkinEngine* skin = skinEngineOf(GetDlgItem(window_, IDC_SKIN))) {
+        skin->replaceWindow(placeholder, divider);
+    }
     // Above the pages, and found before its placeholder, which has the same id.
     SetWindowPos(divider, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -230,5 +240,7 @@ void Win32MainWindow::redrawAll() {
 }
 
 void Win32MainWindow::postClose() { PostMessageA(window_, WM_CLOSE, 0, 0); }
+
+void Win32MainWindow::sendShowHelp() { SendMessageA(window_, kShowHelp, 0, 0); }
 
 }  // namespace korvane

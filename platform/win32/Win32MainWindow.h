@@ -6,7 +6,7 @@
 #include "platform/win32/TreeListCtrl.h"
 #include "platform/win32/Win32Dialog.h"
 #include "platform/win32/Win32DialogHost.h"
-#include "skin/NeutralSkin.h"
+#include "skin/win32/SplashControl.h"
 
 #include <functional>
 #include <memory>
@@ -36,8 +36,8 @@ public:
 
     DialogControls& controls() override { return *dialog_; }
     CTreeListCtrl& tree() override { return *tree_; }
-    SplashWindow& splash() override { return splash_; }
-    ISkinEngine* skinEngine() override { return &skin_; }
+    SplashWindow& splash() override { return *splash_; }
+    ISkinEngine* skinEngine() override;
 
     void appendSystemMenu(int commandId, std::string_view text) override;
     void setIcons(int resourceId) override;
@@ -48,6 +48,7 @@ public:
     void runAboutBox(DialogHandler& handler) override;
     void redrawAll() override;
     void postClose() override;
+    void sendShowHelp() override;
 
 private:
     static INT_PTR CALLBACK dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -69,8 +70,7 @@ private:
     std::optional<Win32Dialog> dialog_;
     std::optional<Win32TreeListCtrl> tree_;
     std::vector<std::unique_ptr<Win32DialogHost>> pages_;
-    NeutralSkinEngine skin_;
-    NeutralSplash splash_;
+    std::optional<Win32Splash> splash_;
 };
 
 }  // namespace korvane

@@ -65,7 +65,7 @@ TEST(CommandLine, HelpAndVersionNeedNothingElse) {
 }
 
 TEST(CommandLine, WrongUsageIsNamed) {
-    EXPECT_EQ(refused({}), "a command is missing: list, show or apply");
+    EXPECT_EQ(refused({}), "a command is missing: list, show, apply or check-skin");
     EXPECT_EQ(refused({"Show", "11"}), "there is no command \"Show\"");
     EXPECT_EQ(refused({"show"}), "show needs an item: its ItemId or its title");
     EXPECT_EQ(refused({"apply", ""}), "apply needs an item: its ItemId or its title");
@@ -81,6 +81,19 @@ TEST(CommandLine, WrongUsageIsNamed) {
               "--language needs --program-folder, where the language files are");
     EXPECT_EQ(refused({"list", "--windows", "xp"}), "--windows needs --registry, the file of that system");
     EXPECT_EQ(refused({"list", "--\x1b[31m\n"}), "there is no option \"--?[31m?\"");
+}
+
+TEST(CommandLine, CheckSkinTakesAFileAndNothingOfARegistry) {
+    const CommandLine line = understood({"--json", "check-skin", "a=b.skn"});
+    EXPECT_EQ(line.command, Command::CheckSkin);
+    EXPECT_EQ(line.skinFile, "a=b.skn");
+    EXPECT_EQ(line.item, "");
+    EXPECT_TRUE(line.json);
+    EXPECT_EQ(refused({"check-skin"}), "check-skin needs a file: a skin or a splash");
+    EXPECT_EQ(refused({"check-skin", ""}), "check-skin needs a file: a skin or a splash");
+    EXPECT_EQ(refused({"check-skin", "a", "b"}), "unexpected argument \"b\"");
+    EXPECT_EQ(refused({"check-skin", "a", "--all"}), "--all belongs to list");
+    EXPECT_EQ(refused({"check-skin", "a", "--registry=x", "--windows=xp"}), "--registry does not belong to check-skin");
 }
 
 TEST(CommandLine, SystemOptionsTakeOnlyWhatTheyKnow) {

@@ -25,6 +25,7 @@ public:
     }
     void OnAbout() override { told.emplace_back("about"); }
     void OnHelp() override { told.emplace_back("help"); }
+    void OnFrameButton(const std::string& name) override { told.emplace_back("button " + name); }
     void OnDividerMoved(int distance) override { told.push_back("divider " + std::to_string(distance)); }
     void OnDestroy() override { told.emplace_back("destroy"); }
 
@@ -127,7 +128,7 @@ TEST(MemoryMainWindowTest, AWindowThatEndsWhileItIsInitialisedNeverRuns) {
         EXPECT_FALSE(window.run(log));
         EXPECT_EQ(window.dialog().result(), 0);
         EXPECT_FALSE(window.selectData(1));
-        EXPECT_FALSE(window.pressHelp());
+        EXPECT_FALSE(window.pressFrameButton("Help"));
         EXPECT_EQ(log.told, (Told{"init", "destroy"}));
     }
 }
@@ -162,8 +163,8 @@ TEST(MemoryMainWindowTest, TheSystemMenuOffersWhatWasAppended) {
     EXPECT_FALSE(window.chooseSystemMenu(IDM_ABOUT));
     window.appendSystemMenu(IDM_ABOUT, "&About");
     EXPECT_TRUE(window.chooseSystemMenu(IDM_ABOUT));
-    EXPECT_TRUE(window.pressHelp());
-    EXPECT_EQ(log.told, (Told{"init", "about", "help"}));
+    EXPECT_TRUE(window.pressFrameButton("Help"));
+    EXPECT_EQ(log.told, (Told{"init", "about", "button Help"}));
 }
 
 TEST(MemoryMainWindowTest, TheDividerStaysWithinItsRange) {

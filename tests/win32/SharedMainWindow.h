@@ -37,6 +37,7 @@ public:
     void runAboutBox(DialogHandler& handler) override { window_.runAboutBox(handler); }
     void redrawAll() override { window_.redrawAll(); }
     void postClose() override { window_.postClose(); }
+    void sendShowHelp() override { window_.sendShowHelp(); }
 
 private:
     // Passes on what a page hears to whoever has the window.
@@ -56,6 +57,7 @@ private:
     void OnApplyChanges() override { borrower_->OnApplyChanges(); }
     void OnAbout() override { borrower_->OnAbout(); }
     void OnHelp() override { borrower_->OnHelp(); }
+    void OnFrameButton(const std::string& name) override { borrower_->OnFrameButton(name); }
     void OnDividerMoved(int distance) override { borrower_->OnDividerMoved(distance); }
     void OnDestroy() override {}  // by then the borrowers have gone
 

@@ -42,6 +42,7 @@ public:
     void OnApplyChanges() override { told.emplace_back("apply"); }
     void OnAbout() override { told.emplace_back("about"); }
     void OnHelp() override { told.emplace_back("help"); }
+    void OnFrameButton(const std::string& name) override { told.emplace_back("button " + name); }
     void OnDividerMoved(int distance) override { dragged = distance; }
     void OnDestroy() override { told.emplace_back("destroy"); }
 };

@@ -1,0 +1,48 @@
+// What the skin file and the splash file have in common: an INI text read line
+// by line, so that every mistake can be named with its line.
+#pragma once
+
+#include "skin/SkinFile.h"
+
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+struct SkinLine {
+    enum class Kind { Section, Entry, Unclear };
+    Kind kind = Kind::Unclear;
+    int number = 0;            // from 1
+    std::string_view name;     // of the section, or the key before the equals sign
+    std::string_view value{};  // of an entry, without the white space around it
+};
+
+// The lines that mean something: blank lines and comments are passed over.
+class SkinLines {
+public:
+    explicit SkinLines(std::string_view text) : rest_(text) {}
+    bool next(SkinLine& line);
+
+private:
+    std::string_view takeLine();
+
+    std::string_view rest_;
+    int number_ = 0;
+};
+
+// Whether this is a text with Format=1 in the given section. If it is, a byte order mark is taken off; if not, the
+// problem says why.
+bool checkSkinText(const std::string& name, std::string_view section, std::string_view& text, SkinProblem& problem);
+
+// Reads a picture beside the skin file. Answers why it cannot, naming the picture, or an empty text.
+std::string readSkinPicture(std::string_view name, const ReadSkinFile& read, Picture& picture);
+
+// A part of a file in quotation marks: short, and safe to show anywhere.
+std::string quotedPart(std::string_view text);
+
+// Whether two names are the same but for capital letters.
+bool sameName(std::string_view a, std::string_view b);
+
+std::string_view withoutBlanks(std::string_view text);
+
+}  // namespace korvane

@@ -1,0 +1,42 @@
+// The splash: a control of the main dialog whose three methods name a splash
+// file and show its picture in a window of its own while the program starts.
+#pragma once
+
+#include "platform/SkinEngine.h"
+
+#include <windows.h>
+
+namespace korvane {
+
+constexpr char kSplashClass[] = "Korvane.Splash";
+
+// Calls a method: wParam is its dispatch id, lParam its argument. The answer is FALSE for an id that is none of these.
+//   22  the path of the splash file, a const char*
+//   19  the least time for which the picture is shown, in milliseconds, 0 to 10,000 (larger or smaller ones are cut)
+//   15  shows the picture; TRUE: and returns only when that time is over
+// A file that is missing or broken shows nothing.
+constexpr UINT kSplashMethod = WM_USER + 101;
+// The main window is on the screen: the picture goes, or when its time is not over yet, as soon as it is.
+constexpr UINT kSplashMainShown = WM_USER + 102;
+
+// Needed before a dialog with such a control can be made.
+void registerSplashClass(HINSTANCE instance);
+
+// The methods of one such control, which is borrowed.
+class Win32Splash final : public SplashWindow {
+public:
+    explicit Win32Splash(HWND control) : control_(control) {}
+
+    void setFile(const std::string& path) override;
+    void setMinimumTime(std::int32_t milliseconds) override;
+    void showSplash(bool wait) override;
+
+    // For the main window when it is about to be shown. The picture stays until it is there, so that no hole flashes
+    // in between.
+    void close();
+
+private:
+    HWND control_;
+};
+
+}  // namespace korvane
