@@ -5,10 +5,10 @@
 #include "cli/Json.h"
 #include "cli/RegFileStore.h"
 #include "skin/SkinFile.h"
+#include "skin/SkinFolder.h"
 #include "skin/SkinText.h"
 #include "skin/SplashFile.h"
 
-#include <utility>
 #include <vector>
 
 namespace korvane {
@@ -18,12 +18,6 @@ struct Checked {
     std::string whatItIs{};  // when there is no problem
     std::vector<SkinProblem> problems{};
 };
-
-#ifdef _WIN32
-constexpr const char* kFolderEnds = "\\/:";
-#else
-constexpr const char* kFolderEnds = "/";
-#endif
 
 std::string counted(std::size_t count, const std::string& what) {
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
@@ -81,15 +75,11 @@ ExitStatus checkSkin(const CommandLine& options, std::string& out, std::string& 
         err += "kmctl: " + options.skinFile + ": " + *reason + '\n';
         return ExitStatus::WrongUsage;
     }
-    const std::size_t nameAt = options.skinFile.find_last_of(kFolderEnds) + 1;  // 0 when there is no folder
-    const std::string folder = options.skinFile.substr(0, nameAt);
-    const std::string name = options.skinFile.substr(nameAt);
-    const auto readBeside = [&](const std::string& picture) {
-        std::string bytes;
-        return readInputFile(folder + picture, bytes) ? std::nullopt : std::optional(std::move(bytes));
-    };
-    const bool isSplash = name.size() >= 4 && sameName(std::string_view(name).substr(name.size() - 4), ".spl");
-    const Checked checked = isSplash ? readAsSplash(name, text, readBeside) : readAsSkin(name, text, readBeside);
+    const SkinFolder folder(options.skinFile);
+    const std::string& name = folder.fileName();
+    const ReadSkinFile read = folder.reader();
+    const bool isSplash = name.size() >= 4 && equalIgnoringCase(std::string_view(name).substr(name.size() - 4), ".spl");
+    const Checked checked = isSplash ? readAsSplash(name, text, read) : readAsSkin(name, text, read);
     if (options.json) {
         out += problemsAsJson(checked.problems);
     } else {

@@ -27,7 +27,7 @@ Commands:
                        Selects an item, sets controls of its page in the order
                        given, presses "Apply Changes" and says what happened.
   check-skin FILE      Reads a skin file, or a splash file (.spl), and the
-                       pictures beside it, and names every mistake with its line.
+                       pictures beside it, and names its mistakes by line.
 
 ITEM is an ItemId or a title. CONTROL is a control's number, as show prints it:
   1013=1               sets a check box (0 clears it)

@@ -126,7 +126,7 @@ void ElementPainter::checkSquare(const Rect& square, const ElementLook& look, Co
     canvas_.stroke(mark, size * 0.14F, palette_.of(look.of(state).mark));
 }
 
-bool ElementPainter::frameButton(const Rect& area, const ElementLook& look, ControlState state,
+void ElementPainter::frameButton(const Rect& area, const ElementLook& look, ControlState state,
                                  std::string_view name) {
     background(area, look, state);
     const Pixel colour = palette_.of(look.of(state).mark);
@@ -135,15 +135,15 @@ bool ElementPainter::frameButton(const Rect& area, const ElementLook& look, Cont
     const float y = middle(area.top, area.bottom);
     const float reach = size * 0.19F;
     const float thickness = size * 0.095F;
-    if (equalIgnoringCase(name, "Close")) {
+    if (name == "Close") {
         const CanvasPoint falling[] = {{x - reach, y - reach}, {x + reach, y + reach}};
         const CanvasPoint rising[] = {{x - reach, y + reach}, {x + reach, y - reach}};
         canvas_.stroke(falling, thickness, colour);
         canvas_.stroke(rising, thickness, colour);
-    } else if (equalIgnoringCase(name, "Minimize")) {
+    } else if (name == "Minimize") {
         const CanvasPoint line[] = {{x - reach, y + reach}, {x + reach, y + reach}};
         canvas_.stroke(line, thickness, colour);
-    } else if (equalIgnoringCase(name, "Help")) {
+    } else {
         const float hook = size * 0.15F;
         const CanvasPoint sign[] = {{x - hook, y - hook},          {x - hook * 0.8F, y - hook * 1.5F},
                                     {x, y - hook * 1.8F},          {x + hook * 0.8F, y - hook * 1.5F},
@@ -152,10 +152,7 @@ bool ElementPainter::frameButton(const Rect& area, const ElementLook& look, Cont
         const CanvasPoint dot[] = {{x, y + hook * 1.75F}, {x, y + hook * 1.78F}};
         canvas_.stroke(sign, thickness, colour);
         canvas_.stroke(dot, thickness * 1.15F, colour);
-    } else {
-        return false;
     }
-    return true;
 }
 
 }  // namespace korvane

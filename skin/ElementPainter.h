@@ -56,9 +56,8 @@ public:
     void surface(const Rect& area, const Rect& whole, const ElementLook& look, ControlState state);
     // The square of a check box, with its mark if it is ticked.
     void checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool ticked);
-    // A button of the frame. "Help", "Minimize" and "Close", in any case, have signs; false: another, whose sign is
-    // left to the caller.
-    bool frameButton(const Rect& area, const ElementLook& look, ControlState state, std::string_view name);
+    // A button of the frame with its sign: "Help", "Minimize" or "Close".
+    void frameButton(const Rect& area, const ElementLook& look, ControlState state, std::string_view name);
 
 private:
     BoxPaint boxPaint(const ElementLook& look, ControlState state) const;

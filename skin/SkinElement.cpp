@@ -92,14 +92,14 @@ SkinElement::SkinElement(bool isMain) : isMain_(isMain) {
 std::string SkinElement::take(const SkinLine& entry) {
     const std::size_t dot = entry.name.find('.');
     const std::string_view name = entry.name.substr(0, dot);
-    const auto* key = std::ranges::find_if(kKeys, [&](const Key& each) { return sameName(each.name, name); });
+    const auto* key = std::ranges::find_if(kKeys, [&](const Key& each) { return equalIgnoringCase(each.name, name); });
     if (key == std::end(kKeys) || (key->use == Key::Use::MainAlone && !isMain_)) {
         return quotedPart(entry.name) + " is no key of this section";
     }
     std::size_t state = 0;
     if (dot != std::string_view::npos) {
         const auto* found = std::ranges::find_if(
-            kStateNames, [&](std::string_view each) { return sameName(each, entry.name.substr(dot + 1)); });
+            kStateNames, [&](std::string_view each) { return equalIgnoringCase(each, entry.name.substr(dot + 1)); });
         state = static_cast<std::size_t>(found - kStateNames);
         if (key->use != Key::Use::PerState || state == 0 || found == std::end(kStateNames)) {
             return quotedPart(entry.name) + " is no key of this section";

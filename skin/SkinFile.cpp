@@ -97,7 +97,7 @@ private:
     }
 
     void enter(const SkinLine& line) {
-        const auto named = [&](std::string_view name) { return sameName(name, line.name); };
+        const auto named = [&](std::string_view name) { return equalIgnoringCase(name, line.name); };
         section_ = Section::PassedOver;
         if (named("Skin") || named("Colors")) {
             const Section section = named("Skin") ? Section::Skin : Section::Colours;
@@ -140,14 +140,14 @@ private:
 
     void takeHeading(const SkinLine& line) {
         constexpr std::string_view kKeys[] = {"Format", "Name", "Author"};
-        if (std::ranges::none_of(kKeys, [&](std::string_view key) { return sameName(key, line.name); })) {
+        if (std::ranges::none_of(kKeys, [&](std::string_view key) { return equalIgnoringCase(key, line.name); })) {
             mistake(line.number, quotedPart(line.name) + " is no key of this section");
         }
     }
 
     void takeColour(const SkinLine& line) {
         std::size_t i = 1;
-        while (i < skin_.colours_.size() && !sameName(colourName(static_cast<ColourSource>(i)), line.name)) {
+        while (i < skin_.colours_.size() && !equalIgnoringCase(colourName(static_cast<ColourSource>(i)), line.name)) {
             ++i;
         }
         if (i == skin_.colours_.size()) {

@@ -14,16 +14,14 @@ namespace {
 constexpr std::string_view kWhiteSpace = " \t\v\f\x1a";
 constexpr std::size_t kLongestQuotation = 60;
 
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 // Windows opens a device under these names in every folder, whatever follows the first dot.
 bool isDevice(std::string_view name) {
     const std::string_view stem = withoutBlanks(name.substr(0, name.find('.')));
     constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL"};
-    if (std::ranges::any_of(kDevices, [&](std::string_view device) { return sameName(stem, device); })) {
+    if (std::ranges::any_of(kDevices, [&](std::string_view device) { return equalIgnoringCase(stem, device); })) {
         return true;
     }
-    return stem.size() == 4 && (sameName(stem.substr(0, 3), "COM") || sameName(stem.substr(0, 3), "LPT")) &&
+    return stem.size() == 4 && (equalIgnoringCase(stem.substr(0, 3), "COM") || equalIgnoringCase(stem.substr(0, 3), "LPT")) &&
            stem[3] >= '0' && stem[3] <= '9';
 }
 
@@ -44,8 +42,8 @@ std::optional<SkinLine> findFormat(std::string_view text, std::string_view secti
             if (inSection) {
                 return std::nullopt;
             }
-            inSection = sameName(line.name, section);
-        } else if (inSection && line.kind == SkinLine::Kind::Entry && sameName(line.name, "Format")) {
+            inSection = equalIgnoringCase(line.name, section);
+        } else if (inSection && line.kind == SkinLine::Kind::Entry && equalIgnoringCase(line.name, "Format")) {
             return line;
         }
     }
@@ -108,7 +106,7 @@ bool checkSkinText(const std::string& name, std::string_view section, std::strin
         text.remove_prefix(text.starts_with(kUtf8Mark) ? kUtf8Mark.size() : 0);
         format = findFormat(text, section);
         if (!format) {
-            reason = "is no " + std::string(sameName(section, "Skin") ? "skin" : "splash") +
+            reason = "is no " + std::string(equalIgnoringCase(section, "Skin") ? "skin" : "splash") +
                      ": there is no Format=1 in a section [" + std::string(section) + "]";
         } else if (format->value != "1") {
             reason = "Format: " + quotedPart(format->value) + " is not known, only 1 is";
@@ -138,10 +136,6 @@ std::string quotedPart(std::string_view text) {
     quoted += text.substr(0, kLongestQuotation);
     std::ranges::replace_if(quoted, [](char c) { return c < ' ' || c > '~'; }, '?');
     return quoted += text.size() > kLongestQuotation ? "...\"" : "\"";
-}
-
-bool sameName(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, {}, lowerCase, lowerCase);
 }
 
 std::string_view withoutBlanks(std::string_view text) {

@@ -2,6 +2,7 @@
 // by line, so that every mistake can be named with its line.
 #pragma once
 
+#include "platform/EqualIgnoringCase.h"
 #include "skin/SkinFile.h"
 
 #include <string>
@@ -39,9 +40,6 @@ std::string readSkinPicture(std::string_view name, const ReadSkinFile& read, Pic
 
 // A part of a file in quotation marks: short, and safe to show anywhere.
 std::string quotedPart(std::string_view text);
-
-// Whether two names are the same but for capital letters.
-bool sameName(std::string_view a, std::string_view b);
 
 std::string_view withoutBlanks(std::string_view text);
 

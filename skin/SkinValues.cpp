@@ -52,7 +52,7 @@ std::string noNumber(std::string_view value, int lowest, int highest) {
     return quotedPart(value) + " is no number from " + std::to_string(lowest) + " to " + std::to_string(highest);
 }
 
-bool isNone(std::string_view value) { return sameName(value, "none"); }
+bool isNone(std::string_view value) { return equalIgnoringCase(value, "none"); }
 
 }  // namespace
 
@@ -70,7 +70,7 @@ std::string takeColour(std::string_view value, SkinColour& target) {
         return {};
     }
     const auto* name =
-        std::ranges::find_if(kColourNames, [&](std::string_view each) { return sameName(each, value); });
+        std::ranges::find_if(kColourNames, [&](std::string_view each) { return equalIgnoringCase(each, value); });
     if (value.empty() || name == std::end(kColourNames)) {
         return quotedPart(value) + " is no colour: #RRGGBB, Back, Fore, Panel or PanelText";
     }
@@ -138,7 +138,7 @@ std::string takeMargins(std::string_view value, SkinMargins& target) {
 std::string takeFont(std::string_view value, SkinFont& target) {
     const std::vector<std::string_view> parts = partsOf(value, 3);
     const bool bold = parts.size() == 3;
-    if (parts.size() < 2 || parts.size() > 3 || parts[0].empty() || (bold && !sameName(parts[2], "bold"))) {
+    if (parts.size() < 2 || parts.size() > 3 || parts[0].empty() || (bold && !equalIgnoringCase(parts[2], "bold"))) {
         return quotedPart(value) + " is no font: its name, its size in points, and perhaps the word bold";
     }
     if (parts[0].size() > kLongestFace) {
@@ -158,7 +158,7 @@ std::string takeButtons(std::string_view value, std::vector<std::string>& target
         isNone(value) ? std::vector<std::string_view>() : partsOf(value, std::size(kButtonNames));
     for (const std::string_view part : parts) {
         const auto* name =
-            std::ranges::find_if(kButtonNames, [&](std::string_view each) { return sameName(each, part); });
+            std::ranges::find_if(kButtonNames, [&](std::string_view each) { return equalIgnoringCase(each, part); });
         if (name == std::end(kButtonNames)) {
             return quotedPart(part) + " is no button: Help, Minimize or Close";
         }

@@ -14,15 +14,15 @@ public:
     // Answers what is wrong with the line, or an empty text.
     std::string take(const SkinLine& line) {
         if (line.kind == SkinLine::Kind::Section) {
-            const bool isFirst = !inSplash_ && sameName(line.name, "Splash");
+            const bool isFirst = !inSplash_ && equalIgnoringCase(line.name, "Splash");
             inSplash_ = true;
             return isFirst ? "" : "a splash file has one section, [Splash], not " + quotedPart(line.name);
         }
         if (line.kind == SkinLine::Kind::Unclear || !inSplash_) {
             return quotedPart(line.name) + " is neither a section nor a key of one";
         }
-        const bool isPicture = sameName(line.name, "Picture");
-        if (!isPicture && !sameName(line.name, "Format")) {
+        const bool isPicture = equalIgnoringCase(line.name, "Picture");
+        if (!isPicture && !equalIgnoringCase(line.name, "Format")) {
             return quotedPart(line.name) + " is no key of [Splash]";
         }
         std::optional<SkinLine>& kept = isPicture ? picture_ : format_;

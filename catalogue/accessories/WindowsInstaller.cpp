@@ -99,10 +99,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 41,
      .title = "Windows Installer Logging",  // same title as record 287, on purpose
      .description =
-         "Makes Windows Installer log each installation in the Temp folder, using every option of the list except + "
-         "and !. The log shows why a setup failed. Clearing the box removes the value and, with it, the whole local "
-         "copy of the software policies of this computer that is stored for the current user, not only the part for "
-         "the Installer.",
+         "Makes Windows Installer log each installation in the Temp folder, with every option of the list except + "
+         "and !, to show why a setup failed. Clearing the box removes the value and with it the current user's whole "
+         "copy of this computer's software policies, not only the part for the Installer.",
      .page = Page::Category,
      .boxes = kInstallerLoggingBox,
      .table = &kInstallerLoggingLetters,

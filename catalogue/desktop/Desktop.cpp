@@ -220,7 +220,7 @@ constexpr Tweak kTweaks[] = {
      .title = "Change Desktop Icon Visibility",
      .description =
          "Chooses which special folders, such as the Recycle Bin or Network Connections, appear as icons on the "
-         "desktop of all users. Clearing a row deletes its registry key with everything in it; checking it again "
+         "desktop of all users. Clearing a row deletes its registry key unless other keys lie in it; checking it "
          "creates an empty key.",
      .treeParent = 78,
      .page = Page::CheckList,

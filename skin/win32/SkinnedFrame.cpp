@@ -1,7 +1,6 @@
 // What the system does at its caption, done at ours.
 #include "skin/win32/SkinnedFrame.h"
 
-#include "platform/EqualIgnoringCase.h"
 #include "skin/win32/SkinEngine.h"
 
 #include <algorithm>
@@ -118,7 +117,7 @@ std::vector<SkinnedFrame::Button> SkinnedFrame::buttons() const {
     const std::vector<std::string>& names = look().buttons;
     for (auto name = names.rbegin(); name != names.rend(); ++name) {
         // Only a window that can be minimized is; the help belongs to the program's main window as well.
-        if (!(style & WS_MINIMIZEBOX) && !equalIgnoringCase(*name, "Close")) {
+        if (!(style & WS_MINIMIZEBOX) && *name != "Close") {
             continue;
         }
         places.push_back({*name, {right - side, inset, right, inset + side}});
@@ -149,7 +148,7 @@ LRESULT SkinnedFrame::hitTest(POINT screen) const {
     const int button = buttonAt(screen);
     if (button != kNoButton) {
         const std::string name = buttons()[static_cast<std::size_t>(button)].name;
-        return equalIgnoringCase(name, "Close") ? HTCLOSE : equalIgnoringCase(name, "Minimize") ? HTMINBUTTON : HTHELP;
+        return name == "Close" ? HTCLOSE : name == "Minimize" ? HTMINBUTTON : HTHELP;
     }
     if (contains(iconPlace(), {screen.x - rect.left, screen.y - rect.top})) {
         return HTSYSMENU;
@@ -178,9 +177,9 @@ void SkinnedFrame::release(bool onButton) {
 }
 
 void SkinnedFrame::press(const std::string& name) {
-    if (equalIgnoringCase(name, "Close")) {
+    if (name == "Close") {
         SendMessageA(window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-    } else if (equalIgnoringCase(name, "Minimize")) {
+    } else if (name == "Minimize") {
         SendMessageA(window(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
     } else {
         engine().pressFrameButton(name);
@@ -217,6 +216,7 @@ LRESULT SkinnedFrame::handleFrame(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_NCPAINT: paintFrame(wParam > 1 ? reinterpret_cast<HRGN>(wParam) : nullptr); return 0;
         case kDrawThemedCaption:
         case kDrawThemedFrame: paintFrame(nullptr); return 0;
+        case WM_PRINT: return print(wParam, lParam);
         case WM_NCACTIVATE:
             active_ = wParam != 0;
             paintFrame(nullptr);
@@ -295,10 +295,6 @@ void SkinnedFrame::paintFrame(HRGN update) const {
     if (!IsWindowVisible(window()) || IsIconic(window())) {
         return;
     }
-    const SkinPalette& palette = engine().palette();
-    const SIZE whole = size();
-    RECT inside{0, 0, whole.cx, whole.cy};
-    insideOf(inside);
     const HDC dc = GetWindowDC(window());
     if (update != nullptr) {
         RECT rect{};
@@ -309,6 +305,15 @@ void SkinnedFrame::paintFrame(HRGN update) const {
         SelectClipRgn(dc, inWindow);
         DeleteObject(inWindow);
     }
+    drawFrame(dc);
+    ReleaseDC(window(), dc);
+}
+
+void SkinnedFrame::drawFrame(HDC dc) const {
+    const SkinPalette& palette = engine().palette();
+    const SIZE whole = size();
+    RECT inside{0, 0, whole.cx, whole.cy};
+    insideOf(inside);
     ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
     PaintBuffer caption(whole.cx, captionHeight());
     if (caption.valid()) {
@@ -335,26 +340,40 @@ void SkinnedFrame::paintFrame(HRGN update) const {
         }
         DeleteObject(line);
     }
-    ReleaseDC(window(), dc);
+}
+
+// For programs that take pictures of windows.
+LRESULT SkinnedFrame::print(WPARAM wParam, LPARAM lParam) const {
+    if (!(lParam & PRF_NONCLIENT)) {
+        return callOriginal(WM_PRINT, wParam, lParam);
+    }
+    const auto dc = reinterpret_cast<HDC>(wParam);
+    int saved = SaveDC(dc);
+    drawFrame(dc);
+    RestoreDC(dc, saved);
+    saved = SaveDC(dc);
+    SetViewportOrgEx(dc, borderWidth(), captionHeight(), nullptr);
+    const LRESULT result = callOriginal(WM_PRINT, wParam, lParam & ~LPARAM{PRF_NONCLIENT});
+    RestoreDC(dc, saved);
+    return result;
 }
 
 void SkinnedFrame::drawCaption(PaintBuffer& buffer) const {
     const SkinPalette& palette = engine().palette();
     const Rect caption{0, 0, size().cx, captionHeight()};
-    {
-        Canvas canvas = buffer.canvas();
-        // The lower edge of the box, with its round corners and its border, lies below the caption.
-        Rect beyond = caption;
-        const int hidden = std::max(palette.pixels(look().radius), palette.pixels(look().borderWidth)) + 1;
-        beyond.bottom += look().picture == nullptr ? hidden : 0;
-        ElementPainter(canvas, palette).background(beyond, look(), state());
-    }
+    // The lower edge of the box, with its round corners and its border, lies below the caption.
+    Rect beyond = caption;
+    const int hidden = std::max(palette.pixels(look().radius), palette.pixels(look().borderWidth)) + 1;
+    beyond.bottom += look().picture == nullptr ? hidden : 0;
+    Canvas canvas = buffer.canvas();
+    ElementPainter painter(canvas, palette);
+    painter.background(beyond, look(), state());
     const std::vector<Button> all = buttons();
     for (std::size_t i = 0; i < all.size(); ++i) {
         const bool hot = hot_ == static_cast<int>(i);
         const bool pressed = pressed_ == static_cast<int>(i) && hot;
-        drawButton(buffer, all[i],
-                   pressed ? ControlState::Pressed : hot ? ControlState::Hot : state());
+        painter.frameButton(all[i].place, engine().frameButtonLook(),
+                            pressed ? ControlState::Pressed : hot ? ControlState::Hot : state(), all[i].name);
     }
     Rect place{iconPlace().left, 0, all.empty() ? caption.right : all.back().place.left, caption.bottom};
     auto icon = reinterpret_cast<HICON>(SendMessageA(window(), WM_GETICON, ICON_SMALL, 0));
@@ -378,20 +397,6 @@ void SkinnedFrame::drawTitle(PaintBuffer& buffer, const Rect& place) const {
               DT_LEFT | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(buffer.dc(), oldFont);
     DeleteObject(systemFont);
-}
-
-void SkinnedFrame::drawButton(PaintBuffer& buffer, const Button& button, ControlState state) const {
-    const ElementLook& buttonLook = engine().frameButtonLook();
-    const SkinPalette& palette = engine().palette();
-    Canvas canvas = buffer.canvas();
-    if (ElementPainter(canvas, palette).frameButton(button.place, buttonLook, state, button.name)) {
-        return;
-    }
-    // A button that only the program knows shows the first letter of its name.
-    RECT area{button.place.left, button.place.top, button.place.right, button.place.bottom};
-    SetBkMode(buffer.dc(), TRANSPARENT);
-    SetTextColor(buffer.dc(), colourOf(palette.of(buttonLook.of(state).mark)));
-    DrawTextA(buffer.dc(), button.name.c_str(), 1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
 LRESULT SkinnedFrame::paintInside(HDC dc) const {

@@ -42,9 +42,10 @@ private:
 
     LRESULT callWithoutFrame(UINT message, WPARAM wParam, LPARAM lParam);
     void paintFrame(HRGN update) const;
+    void drawFrame(HDC dc) const;
+    LRESULT print(WPARAM wParam, LPARAM lParam) const;
     void drawCaption(PaintBuffer& buffer) const;
     void drawTitle(PaintBuffer& buffer, const Rect& place) const;
-    void drawButton(PaintBuffer& buffer, const Button& button, ControlState state) const;
     ControlState state() const { return active_ ? ControlState::Normal : ControlState::Inactive; }
     LRESULT paintInside(HDC dc) const;
 

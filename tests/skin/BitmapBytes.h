@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace korvane {
@@ -54,8 +55,8 @@ struct BitmapBytes {
 // A grey picture of that size.
 inline std::string greyBitmap(int width, int height) {
     const std::size_t row = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
-    return BitmapBytes{.width = width, .height = height, .rows = std::string(row * static_cast<std::size_t>(height), '\x80')}
-        .str();
+    std::string rows(row * static_cast<std::size_t>(height), '\x80');
+    return BitmapBytes{.width = width, .height = height, .rows = std::move(rows)}.str();
 }
 
 }  // namespace korvane

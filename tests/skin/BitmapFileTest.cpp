@@ -29,9 +29,11 @@ std::string refusal(const std::string& file) {
 BitmapBytes twoRows(std::uint32_t bits) {
     BitmapBytes bitmap{.width = 3, .height = 2, .bits = bits};
     if (bits == 24) {
-        bitmap.rows = std::string("\1\2\3\4\5\6\7\x8\x9\0\0\0", 12) + std::string("\xFF\0\xFF\xFF\1\xFF\0\0\0\0\0\0", 12);
+        bitmap.rows = std::string("\1\2\3\4\5\6\7\x8\x9\0\0\0", 12) +
+                      std::string("\xFF\0\xFF\xFF\1\xFF\0\0\0\0\0\0", 12);
     } else if (bits == 32) {
-        bitmap.rows = std::string("\1\2\3\4\5\6\7\x8\x9\xA\xB\xC", 12) + std::string("\xFF\0\xFF\xFF\0\0\0\0\1\1\1\1", 12);
+        bitmap.rows = std::string("\1\2\3\4\5\6\7\x8\x9\xA\xB\xC", 12) +
+                      std::string("\xFF\0\xFF\xFF\0\0\0\0\1\1\1\1", 12);
     } else {
         bitmap.colours.assign(std::size_t{1} << bits, 0x111111);
         bitmap.colours[0] = 0xFF00FF;
@@ -73,6 +75,8 @@ TEST(BitmapFile, OtherOrdersOfRowsAndColours) {
     BitmapBytes masked{.width = 1, .height = 1, .bits = 32, .rows = "\x11\x22\x33\x44", .compression = 3};
     masked.masks = littleEndian(0xFF000000, 4) + littleEndian(0xFF0000, 4) + littleEndian(0xFF00, 4);
     EXPECT_EQ(readWell(masked).pixels, Pixels{0xFF443322}) << "without a mask for the alpha";
+    masked.headerSize = 52;
+    EXPECT_EQ(readWell(masked).pixels, Pixels{0xFF443322}) << "nor with room for one";
     masked.masks += littleEndian(0xFF, 4);
     for (const std::uint32_t headerSize : {56U, 108U, 124U}) {
         masked.headerSize = headerSize;

@@ -101,8 +101,8 @@ TEST_F(SkinFileTest, EveryKeyIsRead) {
 }
 
 TEST_F(SkinFileTest, AStateHasTheNormalLookButForWhatItSays) {
-    loadButton("Fill.Hot=#FFFFFF\nFill=#000000\nText=#000001\nBorder=#000002\nBorder.Disabled=none\nText.Disabled=Fore\n"
-               "Mark.Focused=Back\nFill.Pressed=none");
+    loadButton("Fill.Hot=#FFFFFF\nFill=#000000\nText=#000001\nBorder=#000002\nBorder.Disabled=none\n"
+               "Text.Disabled=Fore\nMark.Focused=Back\nFill.Pressed=none");
     const ElementLook& button = look("Button");
     const SkinFill black{own(0xFF000000), own(0xFF000000)};
     EXPECT_EQ(button.of(ControlState::Normal).fill, black);
@@ -134,9 +134,10 @@ TEST_F(SkinFileTest, TheFrame) {
     EXPECT_EQ(look("Main").captionHeight, 40);
     ASSERT_TRUE(load(main + "Buttons=none"));
     EXPECT_TRUE(look("Main").buttons.empty());
-    for (const auto& [line, reason] : {std::pair{"Buttons=Help, Maximize", "Buttons: \"Maximize\" is no button: Help, Minimize or Close"},
-                                       std::pair{"Buttons=Help,help", "Buttons: the button Help is named twice"},
-                                       std::pair{"CaptionHeight=5", "CaptionHeight: \"5\" is no number from 16 to 200"}}) {
+    for (const auto& [line, reason] :
+         {std::pair{"Buttons=Help, Maximize", "Buttons: \"Maximize\" is no button: Help, Minimize or Close"},
+          std::pair{"Buttons=Help,help", "Buttons: the button Help is named twice"},
+          std::pair{"CaptionHeight=5", "CaptionHeight: \"5\" is no number from 16 to 200"}}) {
         ASSERT_TRUE(load(main + line));
         EXPECT_EQ(skin_.element("Main", problem_), nullptr);
         EXPECT_EQ(describe(problem_), std::string("skin.skn, line 4: ") + reason);
@@ -153,15 +154,16 @@ TEST_F(SkinFileTest, MistakesInAnElementAreItsOwnAndNamed) {
         return problem.substr(kBefore.size());
     };
     EXPECT_EQ(inButton("Fill=#12345"), "Fill: \"#12345\" is no colour: #RRGGBB, Back, Fore, Panel or PanelText");
-    for (const char* wrong : {"Fill.Hot=123456", "Fill=#1234567", "Fill=#12345G", "Fill=#+12345", "Fill=#-12345", "Fill=,",
-                              "Fill=#123456,", "Border=red", "Text=none", "Mark=#0x1234", "Fill=none, none"}) {
+    for (const char* wrong : {"Fill.Hot=123456", "Fill=#1234567", "Fill=#12345G", "Fill=#+12345", "Fill=#-12345",
+                              "Fill=,", "Fill=#123456,", "Border=red", "Text=none", "Mark=#0x1234",
+                              "Fill=none, none"}) {
         EXPECT_NE(inButton(wrong).find("is no colour"), std::string::npos) << wrong;
     }
     EXPECT_EQ(inButton("Fill=Back,Fore,Back"), "Fill: \"Back,Fore,Back\" is more than two colours");
     EXPECT_EQ(inButton("Radius=201"), "Radius: \"201\" is no number from 0 to 200");
     for (const char* wrong : {"Radius=-1", "Radius=1.5", "Radius=+1", "Radius=99999999999999999999", "Radius=5px",
-                              "BorderWidth=a", "Margins=1,2,3,-4", "Margins=1,,3,4", "Font=Tahoma, 3", "Font=Tahoma, 73",
-                              "Font=Tahoma, bold"}) {
+                              "BorderWidth=a", "Margins=1,2,3,-4", "Margins=1,,3,4", "Font=Tahoma, 3",
+                              "Font=Tahoma, 73", "Font=Tahoma, bold"}) {
         EXPECT_NE(inButton(wrong).find("is no number"), std::string::npos) << wrong;
     }
     for (const char* wrong : {"Margins=1,2,3", "Margins=1,2,3,4,5", "Margins=1 2 3 4"}) {
@@ -170,12 +172,13 @@ TEST_F(SkinFileTest, MistakesInAnElementAreItsOwnAndNamed) {
     for (const char* wrong : {"Font=Tahoma", "Font=, 8", "Font=Tahoma, 8, italic", "Font=Tahoma, 8, bold, bold"}) {
         EXPECT_NE(inButton(wrong).find("is no font"), std::string::npos) << wrong;
     }
-    EXPECT_NE(inButton("Font=" + std::string(32, 'x') + ",8").find("longer than the name of a font"), std::string::npos);
-    for (const char* wrong : {"Fil=Back", "Fill.Hott=Back", "Fill.=Back", "Fill.Hot.Hot=Back", "Fill.Normal=Back",
-                              "Radius.Hot=1", "=Back", "Format=1"}) {
+    EXPECT_NE(inButton("Font=" + std::string(32, 'x') + ",8").find("longer than the name"), std::string::npos);
+    for (const char* wrong : {"Fil=Back", "Fill.Hott=Back", "Fill.=Back", "Fill.Hot.Hot=Back",
+                              "Fill.Normal=Back", "Radius.Hot=1", "=Back", "Format=1"}) {
         EXPECT_NE(inButton(wrong).find("is no key of this section"), std::string::npos) << wrong;
     }
-    EXPECT_EQ(inButton("Fill=;\x1b[31m\xff"), "Fill: \";?[31m?\" is no colour: #RRGGBB, Back, Fore, Panel or PanelText");
+    EXPECT_EQ(inButton("Fill=;\x1b[31m\xff"),
+              "Fill: \";?[31m?\" is no colour: #RRGGBB, Back, Fore, Panel or PanelText");
     EXPECT_EQ(inButton("Picture="), "Picture: the value is missing");
     EXPECT_EQ(inButton("Fill"), "\"Fill\" is neither a section nor a key with a value");
     EXPECT_EQ(inButton("PictureStates=2"), "PictureStates needs a Picture");
@@ -221,14 +224,16 @@ TEST_F(SkinFileTest, Pictures) {
 }
 
 TEST_F(SkinFileTest, APictureIsReadOnceForAllElements) {
-    ASSERT_TRUE(load(std::string(kHead) + "[Button]\nPicture=b.bmp\n[FrameButton]\nPicture=b.bmp\n[Label]\nPicture=no\n"));
+    ASSERT_TRUE(load(std::string(kHead) + "[Button]\nPicture=b.bmp\n[FrameButton]\nPicture=b.bmp\n"
+                                          "[Label]\nPicture=no\n"));
     EXPECT_EQ(look("Button").picture, look("FrameButton").picture);
     EXPECT_EQ(std::ranges::count(read_, "b.bmp"), 1);
     EXPECT_EQ(skin_.element("Label", problem_), nullptr);
 }
 
 TEST_F(SkinFileTest, ElementsThatAreMissingOrTwice) {
-    ASSERT_TRUE(load(std::string(kHead) + "[button]\n[Label]\nText=x\n[BUTTON]\n[Labels]\nanything\n[Main\nFill=x\n"));
+    ASSERT_TRUE(load(std::string(kHead) +
+                     "[button]\n[Label]\nText=x\n[BUTTON]\n[Labels]\nanything\n[Main\nFill=x\n"));
     EXPECT_EQ(skin_.element("Splitter", problem_), nullptr);
     EXPECT_EQ(describe(problem_), "skin.skn: there is no section [Splitter]");
     EXPECT_EQ(skin_.element("Button", problem_), nullptr);

@@ -89,8 +89,8 @@ TEST(SkinProperties, ADialogsDataIsSearchedForTheControl) {
         return littleEndian(id, 2) + littleEndian(0x376, 2) +
                littleEndian(static_cast<std::uint32_t>(data.size()), 4) + data;
     };
-    const std::string dialog = record(1062, "splash") + record(1057, "skin") + record(1057, "again") + record(1000, "") +
-                               littleEndian(0, 2);
+    const std::string dialog = record(1062, "splash") + record(1057, "skin") + record(1057, "again") +
+                               record(1000, "") + littleEndian(0, 2);
     const auto find = [](const std::string& bytes, int id) {
         const std::vector<char> exact(bytes.begin(), bytes.end());
         const std::span<const std::byte> found = controlData(std::as_bytes(std::span(exact)), id);
@@ -100,7 +100,7 @@ TEST(SkinProperties, ADialogsDataIsSearchedForTheControl) {
     EXPECT_EQ(find(dialog, 1062), "splash");
     EXPECT_EQ(find(dialog, 1058), "");
     EXPECT_EQ(find(dialog, 0), "");
-    EXPECT_EQ(find(littleEndian(0, 2) + dialog, 1057), "") << "a zero id ends the data";
+    EXPECT_EQ(find(std::string(8, '\0') + dialog, 1057), "") << "a zero id ends the data";
     const std::size_t end = dialog.find("skin") + 4;
     for (std::size_t size = 0; size < dialog.size(); ++size) {
         EXPECT_EQ(find(dialog.substr(0, size), 1057), size < end ? "" : "skin") << size;

@@ -40,7 +40,8 @@ TEST(SplashFile, MistakesAreNamed) {
               "Splash.spl, line 3: \"q.bmp\" cannot be read, or is longer than 16 MB");
     EXPECT_EQ(problem(head + "Picture=..\\p.bmp"),
               "Splash.spl, line 3: \"..\\p.bmp\" is no name of a file beside this one");
-    EXPECT_EQ(problem(head + "Picture=p.bmp\nPicture=p.bmp"), "Splash.spl, line 4: \"Picture\" stands in [Splash] twice");
+    EXPECT_EQ(problem(head + "Picture=p.bmp\nPicture=p.bmp"),
+              "Splash.spl, line 4: \"Picture\" stands in [Splash] twice");
     EXPECT_EQ(problem(head + "Pictures=p.bmp"), "Splash.spl, line 3: \"Pictures\" is no key of [Splash]");
     EXPECT_EQ(problem(head + "Picture=p.bmp\n[Other]"),
               "Splash.spl, line 4: a splash file has one section, [Splash], not \"Other\"");

@@ -7,6 +7,7 @@
 #include "pages/PageTemplates.h"
 #include "pages/Tweak.h"
 #include "res/ControlIds.h"
+#include "skin/win32/SkinEngine.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,6 @@ constexpr int kVisibleRight = ((500 - 3) * 6 + 2) / 4;
 constexpr int kCheckMark = 18;     // the box before the text
 constexpr int kButtonBorder = 4;
 constexpr int kComboMargins = 8 + 17;  // borders and spaces, and the arrow
-constexpr int kSunkenBorder = 1;
 constexpr int kFocusFrame = 1;
 
 bool overlap(const Rect& a, const Rect& b) {
@@ -34,9 +34,30 @@ protected:
     LayoutTest() : dc(CreateCompatibleDC(nullptr)) {
         environment.open(IDD_CHECKS);
         const HWND label = environment.control(IDD_CHECKS, IDC_NOTE);
-        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)));
+        const auto font = reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0));
+        SelectObject(dc, font);
+        LOGFONTA description{};
+        GetObjectA(font, sizeof description, &description);
+        description.lfWeight = FW_BOLD;
+        bold = CreateFontIndirectA(&description);
+        EXPECT_EQ(engine.LoadSkin("data/Skin/skin.skn"), 0);
+        EXPECT_EQ(engine.ApplySkinElement(environment.open(IDD_CHECKS), IDC_HEADER, "Label"), 0);
     }
-    ~LayoutTest() override { DeleteDC(dc); }
+    ~LayoutTest() override {
+        DeleteDC(dc);
+        DeleteObject(bold);
+    }
+
+    // A header is a panel with its first line in bold.
+    SIZE headerExtent(const std::string& text, int width) {
+        const std::size_t line = text.find('\n');
+        const HGDIOBJ plain = SelectObject(dc, bold);
+        const SIZE title = extent(text.substr(0, line), width, DT_WORDBREAK | DT_NOPREFIX);
+        SelectObject(dc, plain);
+        const SIZE rest = extent(line == std::string::npos ? "" : text.substr(line + 1), width,
+                                 DT_WORDBREAK | DT_NOPREFIX);
+        return {std::max(title.cx, rest.cx), title.cy + rest.cy};
+    }
 
     // The room that a text takes, wrapped at that width.
     SIZE extent(const std::string& text, int width, UINT format) const {
@@ -45,14 +66,17 @@ protected:
         return {area.right, area.bottom};
     }
 
-    void expectFits(const MemoryControl& control) const {
+    void expectFits(const MemoryControl& control) {
         const Rect& rect = control.rect;
         SIZE room{rect.width(), rect.height()};
         SIZE text{};
         switch (control.kind) {
-            case ControlKind::Header:
-                room = {rect.width() - 2 * kSunkenBorder, rect.height() - 2 * kSunkenBorder};
-                [[fallthrough]];
+            case ControlKind::Header: {
+                const SkinMargins& margins = engine.look("Label").margins;
+                room = {room.cx - margins.left - margins.right, room.cy - margins.top - margins.bottom};
+                text = headerExtent(control.text, room.cx);
+                break;
+            }
             case ControlKind::Label:
             case ControlKind::Note: text = extent(control.text, room.cx, DT_WORDBREAK | DT_NOPREFIX); break;
             case ControlKind::CheckBox:
@@ -76,7 +100,9 @@ protected:
     }
 
     Win32DialogEnvironment environment;
+    Win32SkinEngine engine;
     HDC dc;
+    HFONT bold = nullptr;
 };
 
 std::vector<MemoryControl> visibleControls(const MemoryDialog& page) {

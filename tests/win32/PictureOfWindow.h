@@ -42,6 +42,7 @@ public:
         return *this;
     }
 
+    HDC dc() const { return dc_; }
     COLORREF at(int x, int y) const {
         const std::uint32_t pixel = pixels_[static_cast<std::ptrdiff_t>(y) * width_ + x];
         return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);

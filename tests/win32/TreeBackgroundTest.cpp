@@ -200,6 +200,7 @@ TEST_F(TreeBackgroundTest, ThePictureLiesAtTheLowerRightCornerAndTakesTheWindows
         EXPECT_EQ(drawn.at(size.cx - 1, size.cy - 21), outside);
     };
     look(kPale, RGB(255, 255, 255));
+    EXPECT_EQ(static_cast<COLORREF>(SendMessageA(tree, TVM_GETBKCOLOR, 0, 0)), CLR_NONE);  // the system's, as before
     UpdateWindow(tree);
     MoveWindow(window, 0, 0, 200, 120, FALSE);
     RECT stale{};
