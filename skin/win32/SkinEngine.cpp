@@ -34,21 +34,6 @@ bool wantsHighContrast() {
            (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
-SystemColours readSystemColours() {
-    return {.window = systemColour(COLOR_WINDOW),
-            .windowText = systemColour(COLOR_WINDOWTEXT),
-            .windowFrame = systemColour(COLOR_WINDOWFRAME),
-            .buttonFace = systemColour(COLOR_BTNFACE),
-            .buttonText = systemColour(COLOR_BTNTEXT),
-            .grayText = systemColour(COLOR_GRAYTEXT),
-            .highlight = systemColour(COLOR_HIGHLIGHT),
-            .highlightText = systemColour(COLOR_HIGHLIGHTTEXT),
-            .activeCaption = systemColour(COLOR_ACTIVECAPTION),
-            .captionText = systemColour(COLOR_CAPTIONTEXT),
-            .inactiveCaption = systemColour(COLOR_INACTIVECAPTION),
-            .inactiveCaptionText = systemColour(COLOR_INACTIVECAPTIONTEXT)};
-}
-
 HWND windowOf(DialogControls& dialog, int controlId) {
     const HWND window = static_cast<Win32Dialog&>(dialog).window();
     return controlId == 0 ? window : GetDlgItem(window, controlId);
@@ -58,7 +43,24 @@ constexpr char kFrameButton[] = "FrameButton";
 
 }  // namespace
 
-Win32SkinEngine::Win32SkinEngine() { setUp(); }
+SystemSettings readSystemSettings() {
+    return {.highContrast = wantsHighContrast(),
+            .colours = {.window = systemColour(COLOR_WINDOW),
+                        .windowText = systemColour(COLOR_WINDOWTEXT),
+                        .windowFrame = systemColour(COLOR_WINDOWFRAME),
+                        .buttonFace = systemColour(COLOR_BTNFACE),
+                        .buttonText = systemColour(COLOR_BTNTEXT),
+                        .grayText = systemColour(COLOR_GRAYTEXT),
+                        .highlight = systemColour(COLOR_HIGHLIGHT),
+                        .highlightText = systemColour(COLOR_HIGHLIGHTTEXT),
+                        .activeCaption = systemColour(COLOR_ACTIVECAPTION),
+                        .captionText = systemColour(COLOR_CAPTIONTEXT),
+                        .inactiveCaption = systemColour(COLOR_INACTIVECAPTION),
+                        .inactiveCaptionText = systemColour(COLOR_INACTIVECAPTIONTEXT)},
+            .dpi = screenDpi()};
+}
+
+Win32SkinEngine::Win32SkinEngine() : settings_(readSystemSettings()) {}
 
 Win32SkinEngine::~Win32SkinEngine() {
     windows_.clear();
@@ -78,7 +80,7 @@ Hresult Win32SkinEngine::LoadSkin(const std::string& path) {
     SkinProblem problem;
     const bool loaded = skin_.load(folder.fileName(), *text, folder.reader(), problem);
     looks_.clear();
-    setUp();
+    makeColours();
     return loaded ? kDone : kFailed;
 }
 
@@ -116,7 +118,7 @@ bool Win32SkinEngine::prepare(std::string_view element) {
         return false;
     }
     looks_.insert_or_assign(std::string(element),
-                            highContrast_ ? highContrastLook(element, *look, systemColours_) : *look);
+                            settings_.highContrast ? highContrastLook(element, *look, settings_.colours) : *look);
     if (equalIgnoringCase(element, "Main")) {
         for (const char* part : {kFrameButton, "Button", "SubMain"}) {
             if (looks_.find(part) == looks_.end()) {
@@ -134,19 +136,18 @@ void Win32SkinEngine::replaceWindow(HWND old, HWND window) {
     }
 }
 
-void Win32SkinEngine::setUp() {
-    highContrast_ = wantsHighContrast();
-    systemColours_ = readSystemColours();
-    palette_ = makePalette(skin_, properties_, screenDpi());
-    if (highContrast_) {
+void Win32SkinEngine::makeColours() {
+    palette_ = makePalette(skin_, properties_, settings_.dpi);
+    if (settings_.highContrast) {
+        const SystemColours& colours = settings_.colours;
         palette_.hue = 0;
-        palette_.colours = {0, systemColours_.window, systemColours_.windowText, systemColours_.window,
-                            systemColours_.windowText};
+        palette_.colours = {0, colours.window, colours.windowText, colours.window, colours.windowText};
     }
 }
 
-void Win32SkinEngine::readSystemSettings() {
-    setUp();
+void Win32SkinEngine::useSettings(const SystemSettings& settings) {
+    settings_ = settings;
+    makeColours();
     std::vector<std::string> elements;
     for (const auto& [element, look] : looks_) {
         elements.push_back(element);

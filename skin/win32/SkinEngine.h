@@ -18,6 +18,14 @@ namespace korvane {
 
 class SkinnedWindow;
 
+// What the user has set for all programs.
+struct SystemSettings {
+    bool highContrast = false;
+    SystemColours colours;
+    int dpi = 96;
+};
+SystemSettings readSystemSettings();
+
 class Win32SkinEngine final : public ISkinEngine {
 public:
     // Called with the name of a button of the frame that was pressed, other than minimize and close.
@@ -40,8 +48,8 @@ public:
 
     // A window that has taken the place of another is painted as that one would be.
     void replaceWindow(HWND old, HWND window);
-    // The user's colours, fonts or contrast may have changed.
-    void readSystemSettings();
+    // From now on everything is painted according to these settings; at first they are those that the system has.
+    void useSettings(const SystemSettings& settings);
 
     // ---- For the windows that are painted
 
@@ -62,13 +70,12 @@ public:
 private:
     Hresult apply(HWND window, std::string_view element);
     bool prepare(std::string_view element);
-    void setUp();
+    void makeColours();
 
     SkinFile skin_;
     SkinProperties properties_;
     SkinPalette palette_;
-    bool highContrast_ = false;
-    SystemColours systemColours_;
+    SystemSettings settings_;
     std::map<std::string, ElementLook, std::less<>> looks_;  // as they are painted, by element
     std::map<std::string, HFONT> fonts_;                     // by what they were made from
     std::map<HWND, std::unique_ptr<SkinnedWindow>> windows_;

@@ -196,7 +196,7 @@ LRESULT SkinnedFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SYSCOLORCHANGE:
         case WM_SETTINGCHANGE: {
             const LRESULT result = callOriginal(message, wParam, lParam);
-            engine().readSystemSettings();
+            engine().useSettings(readSystemSettings());
             return result;
         }
         case WM_ERASEBKGND:

@@ -198,6 +198,45 @@ TEST_F(SkinEngineTest, ControlsStayThePlatformsOwn) {
     EXPECT_FALSE(GetWindowLongA(control(IDC_LABEL1), GWL_STYLE) & WS_VISIBLE);
 }
 
+TEST_F(SkinEngineTest, HighContrastReplacesEveryColourAtOnce) {
+    ASSERT_EQ(engine.LoadSkin(kOwnSkin), 0);
+    skinPage(IDD_CHECK_FIELDS, {{IDC_CHECK1, "CheckBox"}, {IDC_HEADER, "Label"}, {IDC_BROWSE1, "Button"}});
+    SystemSettings settings;
+    settings.highContrast = true;
+    settings.colours.window = 0xFF000001;
+    settings.colours.windowText = 0xFFFFFF01;
+    settings.colours.buttonFace = 0xFF000002;
+    settings.colours.buttonText = 0xFFFFFF02;
+    engine.useSettings(settings);
+    for (const char* text : {"", "Text:\nMore text"}) {
+        dialog->setText(IDC_HEADER, text);
+        const int window = pixelsOf(control(IDC_HEADER), RGB(0, 0, 1));
+        const int ink = pixelsOf(control(IDC_HEADER), RGB(0xFF, 0xFF, 1));
+        RECT rect{};
+        GetClientRect(control(IDC_HEADER), &rect);
+        EXPECT_EQ(window + ink, rect.right * rect.bottom) << "there is another colour";
+    }
+    EXPECT_EQ(middleOf(page), RGB(0, 0, 1));
+    dialog->setText(IDC_BROWSE1, "");
+    EXPECT_EQ(middleOf(control(IDC_BROWSE1)), RGB(0, 0, 2));
+    EXPECT_EQ(squareOf(control(IDC_CHECK1)), RGB(0, 0, 1));
+    settings.highContrast = false;
+    engine.useSettings(settings);
+    EXPECT_NE(middleOf(page), RGB(0, 0, 1)) << "and back";
+}
+
+TEST_F(SkinEngineTest, ChecksGrowWithTheResolution) {
+    load(kColourful);
+    skinPage(IDD_CHECKS, {{IDC_CHECK1, "CheckBox"}});
+    const HWND check = control(IDC_CHECK1);
+    SetWindowPos(check, nullptr, 0, 0, 200, 60, SWP_NOMOVE | SWP_NOZORDER);
+    dialog->setText(IDC_CHECK1, "");
+    const int usual = pixelsOf(check, RGB(0x51, 0, 0));
+    EXPECT_EQ(usual, 13 * 13);
+    engine.useSettings({.highContrast = false, .colours = {}, .dpi = 192});
+    EXPECT_EQ(pixelsOf(check, RGB(0x51, 0, 0)), 26 * 26);
+}
+
 TEST_F(SkinEngineTest, TheClientAreaIsLeftAloneWhenThePropertiesSayso) {
     load(kColourful);
     engine.setProperties({.skinClientArea = false});
@@ -221,7 +260,7 @@ TEST_F(SkinEngineTest, WindowsOutliveTheEngineAndItThem) {
         EXPECT_NE(GetWindowLongPtrA(check, GWLP_WNDPROC), before);
         EXPECT_EQ(other.ApplySkinElement(controls, IDC_CHECK2, "CheckBox"), 0);
         DestroyWindow(environment.control(IDD_CHECKS, IDC_CHECK2));
-        other.readSystemSettings();
+        other.useSettings(readSystemSettings());
     }
     EXPECT_EQ(SendMessageA(environment.control(IDD_CHECKS, IDC_CHECK1), BM_GETCHECK, 0, 0), 0);
 }
