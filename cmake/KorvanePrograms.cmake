@@ -53,8 +53,10 @@ if(NOT WIN32)
     endforeach()
 endif()
 
-# For the picture tour: selects rows in the running program.
+# For the picture tour and for timing the start: programs that drive the running program.
 if(TARGET KorvaneManager)
-    add_executable(select_row EXCLUDE_FROM_ALL tools/tour/SelectRow.cpp)
+    add_executable(select_row EXCLUDE_FROM_ALL tools/drive/SelectRow.cpp)
+    add_executable(start_up EXCLUDE_FROM_ALL tools/drive/StartUp.cpp)
     target_link_libraries(select_row PRIVATE korvane_warnings)
+    target_link_libraries(start_up PRIVATE korvane_warnings)
 endif()

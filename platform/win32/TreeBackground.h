@@ -16,8 +16,8 @@ bool isHighContrastOn();
 //
 // The tree view has no notion of a picture: it fills the background of its texts. It is therefore asked to draw itself
 // twice, on the window colour and on another one. Where the two drawings differ, the background shows through, and by
-// how much they differ tells how far: so the picture can be put exactly there, behind smoothed edges of letters as well,
-// and the rows look as they do without a picture on every Windows.
+// how much they differ tells how far: so the picture can be put exactly there, behind the smoothed edges of letters as
+// well, and the rows look as they do without a picture on every Windows.
 class TreeBackground {
 public:
     using Question = bool (*)();

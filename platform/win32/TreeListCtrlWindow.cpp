@@ -282,9 +282,9 @@ LRESULT TreeListWindow::onPress(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// A tree view scrolls the pixels of its window, and would drag the picture along. The platform's default procedure makes
-// a window without drawing one that counts as hidden (the tree view itself would only remember not to draw), so nothing
-// is moved, and all is painted once afterwards. A window that is really hidden must not become visible this way.
+// A tree view scrolls the pixels of its window, and would drag the picture along. The platform's default procedure
+// makes a window without drawing one that counts as hidden (the tree view itself would only remember not to draw), so
+// nothing is moved, and all is painted once afterwards. A window that is really hidden must not become visible by this.
 LRESULT TreeListWindow::moveRows(UINT message, WPARAM wParam, LPARAM lParam) {
     if (drawingPaused_ || (GetWindowLongA(tree_, GWL_STYLE) & WS_VISIBLE) == 0) {
         return callTreeView(message, wParam, lParam);

@@ -141,19 +141,6 @@ std::vector<Drive> Win32Folders::logicalDrives() {
     return drives;
 }
 
-std::string Win32ProfileStrings::getString(std::string_view section, std::string_view key,
-                                           std::string_view defaultValue, std::size_t size, const std::string& file) {
-    if (size == 0 || !std::in_range<DWORD>(size)) {
-        return {};
-    }
-    std::string value(size, '\0');
-    const DWORD length = GetPrivateProfileStringA(std::string(section).c_str(), std::string(key).c_str(),
-                                                  std::string(defaultValue).c_str(), value.data(),
-                                                  static_cast<DWORD>(size), file.c_str());
-    value.resize(length);
-    return value;
-}
-
 std::unique_ptr<File> Win32Files::openExisting(const std::string& path) {
     return wrapped(CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));

@@ -5,6 +5,7 @@
 
 #include "platform/MessageBoxes.h"
 #include "platform/System.h"
+#include "platform/memory/IniFile.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,12 +34,6 @@ public:
     std::string windowsFolder() override;
     std::string applicationDataFolder() override;
     std::vector<Drive> logicalDrives() override;
-};
-
-class Win32ProfileStrings final : public ProfileStrings {
-public:
-    std::string getString(std::string_view section, std::string_view key, std::string_view defaultValue,
-                          std::size_t size, const std::string& file) override;
 };
 
 class Win32Files final : public Files {
@@ -92,7 +87,7 @@ private:
     Win32Version version_;
     Win32Clock clock_;
     Win32Folders folders_;
-    Win32ProfileStrings profile_;
+    IniFile profile_;
     Win32Pickers pickers_;
     Win32Files files_;
     Win32HelpLibrary help_;

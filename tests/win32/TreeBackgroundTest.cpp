@@ -349,8 +349,8 @@ TEST_F(PictureLoaderTest, LoadsPicturesOfTheKindsThatThePlatformKnows) {
 TEST_F(PictureLoaderTest, WhatIsNoPictureLeavesTheBackgroundPlain) {
     const std::string whole = readFile(kPicture);
     ASSERT_GT(whole.size(), 2000u);
-    for (const std::size_t length : {std::size_t{0}, std::size_t{1}, std::size_t{2}, std::size_t{20}, std::size_t{160}}) {
-        writeFile(folder.file("cut.jpg"), whole.substr(0, length));
+    for (const int length : {0, 1, 2, 20, 160}) {
+        writeFile(folder.file("cut.jpg"), whole.substr(0, static_cast<std::size_t>(length)));
         EXPECT_EQ(loadedWidth(folder.file("cut.jpg")), 0) << length;
     }
     writeFile(folder.file("text.jpg"), std::string(3000, 'x'));

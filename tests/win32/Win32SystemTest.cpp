@@ -60,6 +60,20 @@ private:
     std::string path_;
 };
 
+// What the program's own reader of INI files has to agree with.
+class WindowsProfileStrings final : public ProfileStrings {
+public:
+    std::string getString(std::string_view section, std::string_view key, std::string_view defaultValue,
+                          std::size_t size, const std::string& file) override {
+        std::string value(size, '\0');
+        const DWORD length = GetPrivateProfileStringA(std::string(section).c_str(), std::string(key).c_str(),
+                                                      std::string(defaultValue).c_str(), value.data(),
+                                                      static_cast<DWORD>(size), file.c_str());
+        value.resize(length);
+        return value;
+    }
+};
+
 class WindowsProfileEnvironment {
 public:
     ProfileStrings& strings() { return strings_; }
@@ -68,7 +82,7 @@ public:
 
 private:
     ScratchFolder folder_;
-    Win32ProfileStrings strings_;
+    WindowsProfileStrings strings_;
     int files_ = 0;
 };
 
