@@ -3,8 +3,8 @@
 // the latest.
 #include "skin/win32/SplashControl.h"
 
-#include "platform/memory/StdioFiles.h"
 #include "platform/win32/Win32DialogHost.h"
+#include "skin/SkinFolder.h"
 #include "skin/SplashFile.h"
 
 #include <algorithm>
@@ -39,18 +39,11 @@ void makeOpaque(Picture& picture, COLORREF behind) {
 }
 
 std::optional<Picture> readSplashPicture(const std::string& path) {
-    const std::size_t slash = path.find_last_of("\\/");
-    const std::size_t nameStart = slash == std::string::npos ? 0 : slash + 1;
-    const auto read = [folder = path.substr(0, nameStart)](const std::string& name) -> std::optional<std::string> {
-        std::string content;
-        return readWholeFile(folder + name, kLongestSkinFile, content) ? std::optional(std::move(content))
-                                                                       : std::nullopt;
-    };
-    const std::string name = path.substr(nameStart);
-    const std::optional<std::string> text = read(name);
+    const SkinFolder folder(path);
+    const std::optional<std::string> text = folder.read(folder.fileName());
     Picture picture;
     SkinProblem problem;
-    if (!text || !readSplash(name, *text, read, picture, problem) || picture.pixels.empty()) {
+    if (!text || !readSplash(folder.fileName(), *text, folder.reader(), picture, problem) || picture.pixels.empty()) {
         return std::nullopt;
     }
     makeOpaque(picture, GetSysColor(COLOR_3DFACE));
