@@ -6,6 +6,12 @@
 #include <exception>
 #include <vector>
 
+#ifdef _WIN32
+// The C runtime would otherwise replace "*" and "?" in arguments by the names of files: they may be a tweak's text.
+extern "C" int _CRT_glob;
+int _CRT_glob = 0;
+#endif
+
 namespace {
 
 bool print(std::FILE* stream, const std::string& text) {

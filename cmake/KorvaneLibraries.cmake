@@ -27,7 +27,7 @@ if(cli_sources)
     target_link_libraries(korvane_cli PUBLIC korvane_core $<TARGET_NAME_IF_EXISTS:korvane_win32>)
 endif()
 
-# What tests, benchmarks and fuzz targets may use.
+# What tests and fuzz targets may use.
 add_library(korvane_all INTERFACE)
 target_link_libraries(korvane_all INTERFACE
     korvane_core $<TARGET_NAME_IF_EXISTS:korvane_win32> $<TARGET_NAME_IF_EXISTS:korvane_cli>)

@@ -35,14 +35,6 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/cli/Main.cpp)
     korvane_program(kmctl)
 endif()
 
-# One program for each measurement; ./test only builds them.
-file(GLOB bench_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/bench/*.cpp)
-foreach(source IN LISTS bench_sources)
-    cmake_path(GET source STEM name)
-    add_executable(bench_${name} ${source})
-    target_link_libraries(bench_${name} PRIVATE korvane_warnings korvane_all)
-endforeach()
-
 # Generators of committed files (the language template); they run on the machine that builds.
 if(NOT WIN32)
     file(GLOB tool_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tools/*.cpp)
