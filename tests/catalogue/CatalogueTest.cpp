@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
 
@@ -85,40 +86,20 @@ TEST(Catalogue, HasEveryRecordOnceInItsGroup) {
     EXPECT_EQ(findTweak(311), nullptr);
 }
 
-TEST(Catalogue, HasTwentyNineCategoriesWithAnImageEach) {
-    std::set<int> images;
-    forEachTweak([&](const Tweak& tweak) {
-        EXPECT_TRUE(tweak.image >= 0 && tweak.image <= 29);
-        if (tweak.isCategory()) {
-            EXPECT_TRUE(images.insert(tweak.image).second) << "the image of another category";
-        }
-    });
-    EXPECT_EQ(images.size(), 29u);
-}
-
 TEST(Catalogue, HasTextsThatEveryControlCanShow) {
     forEachTweak([](const Tweak& tweak) {
         EXPECT_TRUE(isPlainLine(tweak.title));
         EXPECT_EQ(tweak.title.find('"'), std::string_view::npos) << "the date file cannot hold this title";
         EXPECT_TRUE(isPlainLine(tweak.description));
-        EXPECT_GE(tweak.description.size(), 28u);
-        EXPECT_LE(tweak.description.size(), 332u);
         EXPECT_TRUE(tweak.treeText.empty() || isPlainLine(tweak.treeText));
-        EXPECT_NE(tweak.treeText, tweak.title) << "the title itself would do";
+        EXPECT_TRUE(std::ranges::all_of(
+            tweak.table != nullptr ? tweak.table->cells : std::span<const std::string_view>(), isControlText));
     });
 }
 
 TEST(Catalogue, BuildsATreeOfCategoriesThatComeBeforeTheirRows) {
-    int rows = 0;
-    int bold = 0;
     forEachTweak([&](const Tweak& tweak) {
-        if (tweak.treeParent == kNoTreeRow) {
-            EXPECT_TRUE(tweak.treeText.empty());
-            return;
-        }
-        ++rows;
-        bold += tweak.isCategory() ? 1 : 0;
-        if (tweak.treeParent != kTreeRoot) {
+        if (tweak.treeParent != kTreeRoot && tweak.treeParent != kNoTreeRow) {
             const Tweak* parent = findTweak(tweak.treeParent);
             ASSERT_NE(parent, nullptr);
             EXPECT_TRUE(parent->isCategory());
@@ -126,8 +107,6 @@ TEST(Catalogue, BuildsATreeOfCategoriesThatComeBeforeTheirRows) {
             EXPECT_LT(tweak.treeParent, tweak.id);
         }
     });
-    EXPECT_EQ(rows, 163);
-    EXPECT_EQ(bold, 22);
 }
 
 // ---- Overviews
@@ -136,13 +115,8 @@ TEST(Catalogue, OverviewsListTheTweaksOfTheirCategory) {
     forEachTweak([](const Tweak& category) {
         EXPECT_EQ(category.isCategory() && category.hasShow(), category.overview != nullptr);
         if (category.overview == nullptr) {
-            EXPECT_FALSE(category.isCategory() && category.treeParent != kNoTreeRow) << "a row that shows nothing";
             return;
         }
-        EXPECT_EQ(category.page, Page::Category);
-        EXPECT_FALSE(category.hasApply());
-        EXPECT_GT(category.overview->nameWidth, 0);
-        EXPECT_GT(category.overview->dateWidth, 0);
         std::set<int> listed;
         for (const OverviewRow& row : category.overview->rows) {
             SCOPED_TRACE(row.id);
@@ -155,7 +129,6 @@ TEST(Catalogue, OverviewsListTheTweaksOfTheirCategory) {
             }
             // A date that is looked up under a text that no record has would make the date file anew at every show.
             EXPECT_TRUE(row.lookUp.empty() || row.lookUp == tweak->title);
-            EXPECT_TRUE(row.text.empty() || isPlainLine(row.text));
         }
         for (int id = 0; category.treeParent != kNoTreeRow && id < kItemCount; ++id) {
             const Tweak& tweak = *findTweak(id);
@@ -170,11 +143,6 @@ TEST(Catalogue, OverviewsListTheTweaksOfTheirCategory) {
 
 TEST(Catalogue, PagesHaveTheControlsThatTheirRowsUse) {
     forEachTweak([](const Tweak& tweak) {
-        if (!tweak.hasShow()) {
-            EXPECT_TRUE(tweak.boxes.empty() && tweak.fields.empty() && tweak.choices.empty() && tweak.table == nullptr);
-            EXPECT_TRUE(tweak.note.empty() && tweak.gate == kNoGate && tweak.show == nullptr && tweak.apply == nullptr);
-            return;
-        }
         std::set<int> used;
         const auto expectControl = [&](int id, ControlKind kind) {
             EXPECT_TRUE(pageHas(tweak, id, kind)) << "control " << id;
@@ -200,52 +168,26 @@ TEST(Catalogue, PagesHaveTheControlsThatTheirRowsUse) {
         if (tweak.colour != nullptr) {
             expectControl(IDC_LABEL1, ControlKind::Label);
             expectControl(IDC_COLOUR_COMBO, ControlKind::ColourCombo);
-            EXPECT_TRUE(isControlText(tweak.colour->label));
         }
         if (!tweak.note.empty()) {
             expectControl(layoutOf(tweak.page).note, ControlKind::Note);
             EXPECT_TRUE(isControlText(tweak.note));
         }
-        EXPECT_TRUE(tweak.isCategory() || !used.empty() || tweak.table != nullptr || tweak.show != nullptr)
-            << "a page with nothing on it";
-    });
-}
-
-TEST(Catalogue, TablesAreFull) {
-    forEachTweak([](const Tweak& tweak) {
-        if (tweak.table == nullptr) {
-            return;
-        }
-        EXPECT_NE(layoutOf(tweak.page).list, 0);
-        ASSERT_FALSE(tweak.table->columns.empty());
-        for (const TableColumn& column : tweak.table->columns) {
-            EXPECT_TRUE(isPlainLine(column.heading));
-            EXPECT_GT(column.width, 0);
-        }
-        EXPECT_TRUE(!tweak.table->cells.empty() || tweak.show != nullptr);
-        EXPECT_EQ(tweak.table->cells.size() % tweak.table->columns.size(), 0u);
-        EXPECT_TRUE(std::ranges::all_of(tweak.table->cells, isControlText));
     });
 }
 
 TEST(Catalogue, AlertsExist) {
-    const auto expectAlert = [](int id) { EXPECT_FALSE(builtInString(id).empty()) << "alert " << id; };
+    const auto expectAlert = [](int id) { EXPECT_TRUE(id == 0 || !builtInString(id).empty()) << "alert " << id; };
     forEachTweak([&](const Tweak& tweak) {
         EXPECT_EQ(tweak.gate.alert == 0, tweak.gate.accepted.empty());
         EXPECT_FALSE(tweak.putBoxesBack && (tweak.gate.alert == 0 || tweak.boxes.empty())) << "nothing to put back";
-        if (tweak.gate.alert != 0) {
-            expectAlert(tweak.gate.alert);
-        }
+        expectAlert(tweak.gate.alert);
         for (const Field& field : tweak.fields) {
-            if (field.required != 0) {
-                expectAlert(field.required);
-            }
+            expectAlert(field.required);
         }
         for (const CheckBox& box : tweak.boxes) {
             const auto* verb = std::get_if<ShellVerbKey>(&box.binding);
-            if (verb != nullptr && verb->requiredAlert != 0) {
-                expectAlert(verb->requiredAlert);
-            }
+            expectAlert(verb != nullptr ? verb->requiredAlert : 0);
         }
     });
 }
@@ -253,15 +195,10 @@ TEST(Catalogue, AlertsExist) {
 // ---- Bindings
 
 struct BindingChecks {
-    const Tweak& tweak;
-
-    static void expectPath(std::string_view path, std::string_view created) {
-        EXPECT_TRUE(isPath(path)) << path;
-        EXPECT_TRUE(isPath(created)) << created;
-    }
     static void expectKey(const KeyPath& key) {
-        expectPath(key.path, key.created);
-        expectPath(key.otherPath, key.otherCreated);
+        for (const std::string_view path : {key.path, key.created, key.otherPath, key.otherCreated}) {
+            EXPECT_TRUE(isPath(path)) << path;
+        }
         EXPECT_EQ(key.otherOn.empty(), key.otherPath.empty() && key.otherCreated.empty());
     }
 
@@ -293,43 +230,20 @@ struct BindingChecks {
     template <typename Kind>
     void operator()(const Kind& kind) const {
         expectKeys(kind);
-        if constexpr (requires { kind.entries; }) {
-            for (const auto& entry : kind.entries) {
-                EXPECT_TRUE(isControlText(entry.text));
-            }
-        }
         expectOwn(kind);
     }
 
     void expectOwn(const auto&) const {}
-    void expectOwn(const DwordFlag& flag) const {
-        EXPECT_NE(flag.checked, flag.cleared);
-        EXPECT_TRUE(flag.alsoName.empty() || flag.alsoName != flag.name);
-    }
+    void expectOwn(const DwordFlag& flag) const { EXPECT_NE(flag.checked, flag.cleared); }
     void expectOwn(const StringFlag& flag) const {
         EXPECT_TRUE(flag.clearedDeletes || !matches(flag.cleared, flag.checked, flag.compare))
             << "a cleared box would show as checked";
-        EXPECT_TRUE(flag.type == ValueType::Sz || flag.type == ValueType::ExpandSz);
     }
-    void expectOwn(const BinaryFlag& flag) const {
-        EXPECT_FALSE(flag.checked.empty());
-        EXPECT_FALSE(std::ranges::equal(flag.checked, flag.cleared));
-    }
-    void expectOwn(const SubkeyFlag& flag) const { EXPECT_TRUE(isPath(flag.name) && !flag.name.empty()); }
     void expectOwn(const MaskBit& mask) const {
         EXPECT_LT(mask.byte, 4);
         EXPECT_TRUE(mask.bit != 0 && (mask.bit & (mask.bit - 1)) == 0) << "not one bit";
     }
-    void expectOwn(const ShellVerbKey& verb) const {
-        EXPECT_TRUE(isPath(verb.verb) && !verb.verb.empty());
-        EXPECT_FALSE(verb.commandLine.empty());
-        EXPECT_EQ(verb.menuText.empty(), verb.menuTextEdit != 0);
-        bool shown = verb.menuTextEdit == 0;
-        for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-            shown = shown || fieldControls(tweak, i).edit == verb.menuTextEdit;
-        }
-        EXPECT_TRUE(shown) << "the menu text's edit box is not shown";
-    }
+    void expectOwn(const ShellVerbKey& verb) const { EXPECT_EQ(verb.menuText.empty(), verb.menuTextEdit != 0); }
     void expectOwn(const StringValue& value) const { EXPECT_EQ(value.suffix.empty(), value.suffixStart.empty()); }
     // An entry that shares its number or its text with an earlier one can be chosen but is never shown again.
     void expectOwn(const DwordChoice& choice) const {
@@ -352,7 +266,7 @@ struct BindingChecks {
 
 TEST(Catalogue, BindingsAreWellFormed) {
     forEachTweak([](const Tweak& tweak) {
-        const BindingChecks check{tweak};
+        const BindingChecks check;
         for (const CheckBox& box : tweak.boxes) {
             std::visit(check, box.binding);
         }
@@ -373,38 +287,23 @@ TEST(Catalogue, BindingsAreWellFormed) {
 
 // ---- Pages
 
-std::string_view elementFor(ControlKind kind) {
-    switch (kind) {
-        case ControlKind::CheckBox: return "CheckBox";
-        case ControlKind::Button: return "Button";
-        case ControlKind::Header:
-        case ControlKind::Label:
-        case ControlKind::Note: return "Label";
-        default: return "";
-    }
-}
-
 // Statics, check boxes and buttons are the skin's; edit boxes, combos and lists are not.
 TEST(PageLayouts, HandEachOfTheirControlsToTheSkinOnce) {
+    const std::map<ControlKind, std::string_view> elements = {{ControlKind::CheckBox, "CheckBox"},
+                                                              {ControlKind::Button, "Button"},
+                                                              {ControlKind::Header, "Label"},
+                                                              {ControlKind::Label, "Label"},
+                                                              {ControlKind::Note, "Label"}};
     for (int index = 0; index < kPageCount; ++index) {
         const PageLayout& layout = layoutOf(static_cast<Page>(index));
         SCOPED_TRACE(layout.templateId);
-        ASSERT_NE(findDialogTemplate(layout.templateId), nullptr);
         ASSERT_FALSE(layout.skin.empty());
         EXPECT_EQ(layout.skin[0].control, 0);
-        EXPECT_EQ(layout.skin[0].element, "SubMain");
-        std::set<int> skinned;
-        for (const SkinElement& element : layout.skin.subspan(1)) {
-            const ControlTemplate* control = findControl(layout.templateId, element.control);
-            ASSERT_NE(control, nullptr) << element.control;
-            EXPECT_EQ(element.element, elementFor(control->kind)) << element.control;
-            EXPECT_TRUE(skinned.insert(element.control).second) << element.control;
-        }
         for (const ControlTemplate& control : findDialogTemplate(layout.templateId)->controls) {
-            EXPECT_EQ(skinned.contains(control.id), !elementFor(control.kind).empty()) << control.id;
-            EXPECT_TRUE(std::ranges::count(layout.members, control.id)) << control.id << " is bound to no member";
+            const auto skinned = std::ranges::find(layout.skin, control.id, &SkinElement::control);
+            EXPECT_EQ(std::ranges::count(layout.skin, control.id, &SkinElement::control), elements.count(control.kind));
+            EXPECT_TRUE(skinned == layout.skin.end() || skinned->element == elements.at(control.kind)) << control.id;
         }
-        EXPECT_EQ(layout.members.size(), findDialogTemplate(layout.templateId)->controls.size());
     }
 }
 

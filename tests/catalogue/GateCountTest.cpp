@@ -30,21 +30,13 @@ TEST(Gates, AreSpreadOverTheCatalogueAsMeant) {
         {kGateMeXp, 1},       {kGate98, 1},         {kNoGate, 72 + 1},  // the one more is the tweak that refuses
                                                                         // Windows 95 in its own routine
     };
-    int applied = 0;
-    int counted = 0;
     for (const GateCount& row : kCounts) {
         int tweaks = 0;
         for (int id = 0; id < kItemCount; ++id) {
             tweaks += findTweak(id)->hasApply() && sameCount(findTweak(id)->gate, row.gate) ? 1 : 0;
         }
         EXPECT_EQ(tweaks, row.tweaks) << "alert " << row.gate.alert;
-        counted += tweaks;
     }
-    for (int id = 0; id < kItemCount; ++id) {
-        applied += findTweak(id)->hasApply() ? 1 : 0;
-    }
-    EXPECT_EQ(applied, 241);
-    EXPECT_EQ(counted, applied) << "a gate of the catalogue is in no row of the table";
     EXPECT_EQ(findTweak(kHideLastUserName)->gate, kNoGate);
 }
 

@@ -1,372 +1,155 @@
-// The Login and Authentication tweaks: several values behind one page, places
-// that differ by Windows family, and numbers that are kept as texts.
-#include "tests/catalogue/ItemTest.h"
+// The Login and Authentication tweaks: several values behind one page, places that differ by Windows family, and
+// numbers that are kept as texts.
+#include "tests/catalogue/TweakCases.h"
 
 namespace korvane {
 namespace {
 
-class Login : public ItemTest {};
-
+class Login : public TweakCases {};
 INSTANTIATE_TEST_SUITE_P(Over, Login, ::testing::ValuesIn(programKinds()), kindName);
 
-const std::string kWinlogon = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon]";
-const std::string kWinlogon9x = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Winlogon]";
-const std::string kDesktop = "[HKEY_USERS\\.DEFAULT\\Control Panel\\Desktop]";
-const std::string kColors = "[HKEY_USERS\\.DEFAULT\\Control Panel\\Colors]";
-const std::string kSystemPolicies =
-    "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System]";
-const std::string kExplorerPolicies =
-    "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer]";
-const std::string kMessenger = "[HKEY_CURRENT_USER\\Software\\Microsoft\\MessengerService]";
-const std::string kUnreadMail = "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\UnreadMail]";
-
-TEST_P(Login, GatesRefuseWithTheirAlerts) {
-    const GateCase gates[] = {
-        {" nt4 2000 xp 2003 ",
-         "These Tweak active only on Windows NT/2000/XP",
-         {158, 159, 163, 165, 167, 172, 173, 175, 176}},
-        {" 2000 xp 2003 ", "These Tweak active only on Windows 2000/XP", {168}},
-        {" xp 2003 ", "These Tweak active only on Windows XP", {156, 160, 164, 166}},
-        {" 2000 ", "These Tweak active only on Windows 2000", {170}},
-        {" 95 98 me nt4 2000 xp 2003 vista ", "", {161, 162, 171}},
-    };
-    expectGates(gates, kWinlogon + '\n' + kWinlogon9x + '\n' + kDesktop + '\n' + kSystemPolicies + '\n' +
-                           kExplorerPolicies + '\n' + kMessenger + '\n');
-}
-
-// ---- 158: automatic login
-
-TEST_P(Login, ForcedAutomaticLoginIsTheOppositeOfItsBox) {
-    struct {
-        const char* values;
-        const char* boxes;
-    } const cases[] = {
-        {"", "01"},
-        {"\"AutoAdminLogon\"=\"1\"\n\"ForceAutoLogon\"=\"1\"", "10"},
-        {"\"AutoAdminLogon\"=\"0\"\n\"ForceAutoLogon\"=\"0\"", "01"},
-        {"\"ForceAutoLogon\"=dword:1", "01"},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.values);
-        showItem(158, kWinlogon + '\n' + each.values);
-        EXPECT_EQ(boxes(), each.boxes);
-    }
-    showItem(158,
-             kWinlogon + "\n\"DefaultUserName\"=\"anna\"\n\"DefaultDomainName\"=\"HOME\"\n\"ForceAutoLogon\"=\"1\"");
-    EXPECT_EQ(edit(), "anna");
-    EXPECT_EQ(edit(IDC_EDIT2), "");
-    EXPECT_EQ(edit(IDC_EDIT3), "HOME");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    ASSERT_TRUE(program().click(IDC_CHECK2));
-    ASSERT_TRUE(program().type(IDC_EDIT2, "secret"));
-    ASSERT_TRUE(program().type(IDC_EDIT3, ""));
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"DefaultDomainName\"=\"HOME\"\n" +  //
-                             '-' + kWinlogon + " \"ForceAutoLogon\"=\"1\"\n" +    //
-                             '+' + kWinlogon + " \"AutoAdminLogon\"=\"1\"\n" +    //
-                             '+' + kWinlogon + " \"DefaultPassword\"=\"secret\"\n");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    ASSERT_TRUE(program().click(IDC_CHECK2));
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"AutoAdminLogon\"=\"1\"\n" +      //
-                             '+' + kWinlogon + " \"AutoAdminLogon\"=\"0\"\n" +  //
-                             '+' + kWinlogon + " \"ForceAutoLogon\"=\"1\"\n");
-}
-
-// Two items write the same value in two ways; each must stand what the other has left.
-TEST_P(Login, ForcedAutomaticLoginIsATextHereAndANumberThere) {
-    showItem(168, kWinlogon + "\n\"ForceAutoLogon\"=\"1\"");
-    EXPECT_EQ(box(), 1u);
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"ForceAutoLogon\"=\"1\"\n" +  //
-                             '+' + kWinlogon + " \"ForceAutoLogon\"=dword:00000001\n");
-    program().select(158);
-    EXPECT_EQ(boxes(), "01");
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"ForceAutoLogon\"=dword:00000001\n" +  //
-                             '+' + kWinlogon + " \"AutoAdminLogon\"=\"0\"\n");
-}
-
-TEST_P(Login, TheShiftKeyIsObeyedWithoutAValue) {
-    showItem(165, kWinlogon + "\n\"IgnoreShiftOverride\"=\"1\"");
-    EXPECT_EQ(box(), 1u);
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"IgnoreShiftOverride\"=\"1\"\n");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '+' + kWinlogon + " \"IgnoreShiftOverride\"=\"1\"\n");
-}
+const std::string kLoginDesktop = login(kDesktop);
 
 TEST_P(Login, TheNumberOfAutomaticLoginsIsANumberOnXpOnly) {
-    const std::string value = '+' + kWinlogon + " \"AutoLogonCount\"=";
     struct {
         const char* windows;
         const char* typed;
-        std::string written;
+        std::string written;  // empty: deleted
     } const cases[] = {
-        {"xp", "5", value + "dword:00000005\n"},       {"2003", " 12 times", value + "dword:0000000c\n"},
-        {"xp", "-1", value + "dword:ffffffff\n"},      {"2000", "5", value + "\"5\"\n"},
-        {"nt4", "12 times", value + "\"12 times\"\n"},
+        {"2003", " 12 times", number("AutoLogonCount", 12)},
+        {"xp", "-1", number("AutoLogonCount", 0xFFFFFFFF)},
+        {"2000", "12 times", text("AutoLogonCount", "12 times")},
+        {"xp", "0", ""},
+        {"xp", "often", ""},
+        {"xp", "", ""},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.typed);
-        showItem(172, kWinlogon, each.windows);
-        ASSERT_TRUE(program().type(IDC_EDIT1, each.typed));
-        EXPECT_EQ(applied(), each.written);
+        open(172, block(kWinlogon, number("AutoLogonCount", 7)), each.windows);
+        type(IDC_EDIT1, each.typed);
+        Changes expected{removed(kWinlogon, number("AutoLogonCount", 7))};
+        if (!each.written.empty()) {
+            expected.insert(added(kWinlogon, each.written));
+        }
+        EXPECT_EQ(apply(), expected);
     }
-    for (const char* nothing : {"", "0", "often", "0x5"}) {
-        SCOPED_TRACE(nothing);
-        showItem(172, kWinlogon + "\n\"AutoLogonCount\"=dword:7");
-        EXPECT_EQ(edit(), "7");
-        ASSERT_TRUE(program().type(IDC_EDIT1, nothing));
-        EXPECT_EQ(applied(), '-' + kWinlogon + " \"AutoLogonCount\"=dword:00000007\n");
-    }
-    showItem(172, kWinlogon + "\n\"AutoLogonCount\"=\"12\"", "2000");
-    EXPECT_EQ(edit(), "12");
 }
 
-// ---- 159: the screen saver of the login screen
-
 TEST_P(Login, TheScreenSaversBoxSwitchesItsFields) {
-    struct {
-        const char* value;
-        std::uint32_t checked;
-        bool usable;
-    } const cases[] = {
-        {"", 0, false},
-        {"\"ScreenSaveActive\"=\"0\"", 0, false},
-        {"\"ScreenSaveActive\"=\"1\"", 1, true},
-        {"\"ScreenSaveActive\"=\" 1x\"", 1, true},
-        {"\"ScreenSaveActive\"=\"yes\"", 0, false},
-        // The box cannot show a two, but the fields tell it from a one.
-        {"\"ScreenSaveActive\"=\"2\"", 1, false},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.value);
-        showItem(159, kDesktop + '\n' + each.value);
-        EXPECT_EQ(box(), each.checked);
-        EXPECT_EQ(program().type(IDC_EDIT1, "a"), each.usable);
-        EXPECT_EQ(program().type(IDC_EDIT2, "b"), each.usable);
-        EXPECT_EQ(program().click(IDC_BROWSE1), each.usable);
+    // The box cannot show a two, but the fields tell it from a one.
+    for (const auto& [stored, usable] : {std::pair{"0", false}, {" 1x", true}, {"2", false}}) {
+        open(159, block(kLoginDesktop, text("ScreenSaveActive", stored)));
+        EXPECT_EQ(program().type(IDC_EDIT1, "a"), usable) << stored;
+        EXPECT_EQ(program().type(IDC_EDIT2, "b"), usable) << stored;
+        EXPECT_EQ(program().click(IDC_BROWSE1), usable) << stored;
     }
     // The fields of the next item on the same page can be used again.
     program().select(171);
-    EXPECT_TRUE(program().type(IDC_EDIT1, "a"));
-    EXPECT_TRUE(program().type(IDC_EDIT2, "b"));
+    type(IDC_EDIT1, "a");
+    type(IDC_EDIT2, "b");
 }
 
 TEST_P(Login, TheScreenSaverIsStoredWithoutTheSystemFolder) {
-    struct {
-        std::string typed;
-        std::string stored;  // empty: deleted
-    } const cases[] = {
-        {"logon.scr", "logon.scr"},
-        {"C:\\WINDOWS\\System32\\logon.scr", "logon.scr"},
+    const std::pair<const char*, const char*> cases[] = {
         {"\"C:\\WINDOWS\\system32\\logon.scr\"", "logon.scr"},
         {"C:\\WINDOWS\\System32\\C:\\WINDOWS\\system32\\logon.scr", "logon.scr"},
-        {"C:\\windows\\system32\\logon.scr", "C:\\\\windows\\\\system32\\\\logon.scr"},
-        {"C:\\WINDOWS\\SYSTEM32\\logon.scr", "C:\\\\WINDOWS\\\\SYSTEM32\\\\logon.scr"},
-        {"C:\\WINDOWS\\logon.scr", "C:\\\\WINDOWS\\\\logon.scr"},
-        {"lo\"go\"n.scr", "logon.scr"},
-        {"\"\"", ""},
+        {"C:\\WINDOWS\\SYSTEM32\\logon.scr", "C:\\WINDOWS\\SYSTEM32\\logon.scr"},
+        {"C:\\WINDOWS\\logon.scr", "C:\\WINDOWS\\logon.scr"},
         {"C:\\WINDOWS\\System32\\", ""},
-        {"", ""},
+        {"\"\"", ""},
     };
-    const std::string active = kDesktop + " \"ScreenSaveActive\"=";
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.typed);
-        showItem(159, kDesktop + "\n\"ScreenSaveActive\"=\"1\"\n\"SCRNSAVE.EXE\"=\"old.scr\"");
-        EXPECT_EQ(edit(), "old.scr");
-        ASSERT_TRUE(program().type(IDC_EDIT1, each.typed));
+    for (const auto& [typed, stored] : cases) {
+        SCOPED_TRACE(typed);
+        open(159, block(kLoginDesktop, text("ScreenSaveActive", "1"), text("SCRNSAVE.EXE", "old.scr"),
+                        text("ScreenSaveTimeOut", "600")));
+        type(IDC_EDIT1, typed);
+        type(IDC_EDIT2, "");
         // A cleared box keeps nothing from being written.
-        ASSERT_TRUE(program().click(IDC_CHECK1));
-        const std::string saver = kDesktop + " \"SCRNSAVE.EXE\"=\"";
-        EXPECT_EQ(applied(), '-' + saver + "old.scr\"\n-" + active + "\"1\"\n" +
-                                 (each.stored.empty() ? "" : '+' + saver + each.stored + "\"\n") + '+' + active +
-                                 "\"0\"\n");
+        click();
+        Changes expected = replaced(kLoginDesktop, text("ScreenSaveActive", "1"), text("ScreenSaveActive", "0"));
+        expected.insert(removed(kLoginDesktop, text("SCRNSAVE.EXE", "old.scr")));
+        expected.insert(removed(kLoginDesktop, text("ScreenSaveTimeOut", "600")));
+        if (*stored != '\0') {
+            expected.insert(added(kLoginDesktop, text("SCRNSAVE.EXE", stored)));
+        }
+        EXPECT_EQ(apply(), expected);
     }
 }
 
-TEST_P(Login, TheScreenSaversTimeOutIsWrittenOrDeleted) {
-    showItem(159, kDesktop);
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    ASSERT_TRUE(program().type(IDC_EDIT2, "600"));
-    const std::string timeOut = kDesktop + " \"ScreenSaveTimeOut\"=\"600\"\n";
-    EXPECT_EQ(applied(), '+' + kDesktop + " \"ScreenSaveActive\"=\"1\"\n+" + timeOut);
-    ASSERT_TRUE(program().type(IDC_EDIT2, ""));
-    EXPECT_EQ(applied(), '-' + timeOut);
-    showItem(159, "");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    ASSERT_TRUE(program().type(IDC_EDIT1, "logon.scr"));
-    EXPECT_EQ(applied(), "");
-}
-
-// ---- 161 and 162: what is behind the login dialog
-
 TEST_P(Login, TheBackgroundColourTakesTheWallpaperAway) {
-    showItem(161, kWinlogon + "\n\"Background\"=\"0 255 255\"\n" + kColors + "\n\"Background\"=\"1 2 3\"\n" + kDesktop +
-                      "\n\"Wallpaper\"=\"logo.bmp\"");
+    const std::string colors = login("Control Panel\\Colors");
+    const std::string wallpaper = block(kLoginDesktop, text("Wallpaper", "logo.bmp"));
+    const Changes noWallpaper = replaced(kLoginDesktop, text("Wallpaper", "logo.bmp"), text("Wallpaper", "(None)"));
+    open(161,
+         block(kWinlogon, text("Background", "0 255 255")) + block(colors, text("Background", "1 2 3")) + wallpaper);
     EXPECT_EQ(shownPage(program())->text(IDC_COLOUR_COMBO), "Aqua");
-    const std::string noWallpaper =
-        '-' + kDesktop + " \"Wallpaper\"=\"logo.bmp\"\n+" + kDesktop + " \"Wallpaper\"=\"(None)\"\n";
-    EXPECT_EQ(applied(), '-' + kColors + " \"Background\"=\"1 2 3\"\n-" + kDesktop + " \"Wallpaper\"=\"logo.bmp\"\n+" +
-                             kColors + " \"Background\"=\"0 255 255\"\n+" + kDesktop + " \"Wallpaper\"=\"(None)\"\n");
+    Changes expected = replaced(colors, text("Background", "1 2 3"), text("Background", "0 255 255"));
+    expected.insert(noWallpaper.begin(), noWallpaper.end());
+    EXPECT_EQ(apply(), expected);
     // Each missing key leaves out its own step alone.
-    showItem(161, kWinlogon + "\n\"Background\"=\"300 0 0\"\n" + kDesktop + "\n\"Wallpaper\"=\"logo.bmp\"");
-    program().pick(IDC_COLOUR_COMBO, 0);
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"Background\"=\"300 0 0\"\n-" + kDesktop +
-                             " \"Wallpaper\"=\"logo.bmp\"\n+" + kWinlogon + " \"Background\"=\"240 248 255\"\n+" +
-                             kDesktop + " \"Wallpaper\"=\"(None)\"\n");
-    showItem(161, kDesktop + "\n\"Wallpaper\"=\"logo.bmp\"");
-    EXPECT_EQ(applied(), noWallpaper);
-    showItem(161, "");
-    EXPECT_EQ(applied(), "");
-    EXPECT_TRUE(stamped("Change the Login Screen Background Color"));
+    open(161, wallpaper);
+    EXPECT_EQ(apply(), noWallpaper);
+    open(161);
+    EXPECT_EQ(apply(), Changes{});
+    EXPECT_TRUE(dated(161));
 }
 
 TEST_P(Login, AnEmptyWallpaperIsLeftButItsPatternGoes) {
-    const std::string common = kDesktop + " \"Pattern\"=\"(None)\"\n+" + kDesktop + " \"TileWallpaper\"=\"";
-    showItem(162, kDesktop + "\n\"Wallpaper\"=\"logo.bmp\"\n\"TileWallpaper\"=\"1\"\n\"Pattern\"=\"85 170\"");
-    EXPECT_EQ(edit(), "logo.bmp");
-    EXPECT_EQ(box(), 1u);
-    ASSERT_TRUE(program().type(IDC_EDIT1, ""));
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '-' + kDesktop + " \"Pattern\"=\"85 170\"\n-" + kDesktop + " \"TileWallpaper\"=\"1\"\n+" +
-                             common + "0\"\n");
-    showItem(162, kDesktop);
-    ASSERT_TRUE(program().type(IDC_EDIT1, "C:\\sky.bmp"));
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '+' + common + "1\"\n+" + kDesktop + " \"Wallpaper\"=\"C:\\\\sky.bmp\"\n");
+    open(162, block(kLoginDesktop, text("Wallpaper", "logo.bmp"), text("TileWallpaper", "1"), text("Pattern", "85")));
+    type(IDC_EDIT1, "");
+    click();
+    Changes expected = replaced(kLoginDesktop, text("TileWallpaper", "1"), text("TileWallpaper", "0"));
+    expected.merge(replaced(kLoginDesktop, text("Pattern", "85"), text("Pattern", "(None)")));
+    EXPECT_EQ(apply(), expected);
+    type(IDC_EDIT1, "C:\\sky.bmp");
+    EXPECT_EQ(apply(), replaced(kLoginDesktop, text("Wallpaper", "logo.bmp"), text("Wallpaper", "C:\\sky.bmp")));
 }
 
-// ---- Texts and numbers
-
-TEST_P(Login, AnEmptyDialogTitleChangesNothing) {
-    showItem(163, kWinlogon + "\n\"Welcome\"=\"Hello\"");
-    EXPECT_EQ(edit(), "Hello");
-    ASSERT_TRUE(program().type(IDC_EDIT1, ""));
-    EXPECT_EQ(applied(), "");
-    EXPECT_TRUE(stamped("Customize the Windows Login and Security Dialog Titles"));
-    ASSERT_TRUE(program().type(IDC_EDIT1, "At home"));
-    EXPECT_EQ(applied(), '-' + kWinlogon + " \"Welcome\"=\"Hello\"\n+" + kWinlogon + " \"Welcome\"=\"At home\"\n");
-}
-
-TEST_P(Login, RemindersAreFourBytes) {
-    struct {
-        const char* value;
-        std::uint32_t checked;
-    } const cases[] = {
-        {"", 0},
-        {"\"PassportBalloon\"=hex:0a,00,00,00", 1},
-        {"\"PassportBalloon\"=hex:0a", 1},
-        {"\"PassportBalloon\"=hex:0a,01,00,00", 0},
-        {"\"PassportBalloon\"=hex:09,00,00,00", 0},
-        {"\"PassportBalloon\"=hex:01,00,00,00", 0},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.value);
-        showItem(164, kMessenger + '\n' + each.value);
-        EXPECT_EQ(box(), each.checked);
-    }
-    showItem(164, kMessenger);
-    const std::string value = kMessenger + " \"PassportBalloon\"=hex:";
-    EXPECT_EQ(applied(), '+' + value + "01,00,00,00\n");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '-' + value + "01,00,00,00\n+" + value + "0a,00,00,00\n");
-}
-
-TEST_P(Login, UnreadMailIsCountedForThreeDaysOrNotAtAll) {
-    showItem(166, "");
-    EXPECT_EQ(box(), 0u);
-    const std::string value = kUnreadMail + " \"MessageExpiryDays\"=dword:0000000";
-    EXPECT_EQ(applied(), '+' + kUnreadMail + "\n+" + value + "3\n");
-    ASSERT_TRUE(program().click(IDC_CHECK1));
-    EXPECT_EQ(applied(), '-' + value + "3\n+" + value + "0\n");
-    program().select(155);
-    program().select(166);
-    EXPECT_EQ(box(), 1u);
-}
-
-TEST_P(Login, CachedLoginsAreANumberKeptAsAText) {
-    struct {
-        const char* text;
-        int entry;
-    } const cases[] = {
-        {"0", 0}, {"10", 10}, {"50", 50}, {"51", kNoSelection}, {"-1", kNoSelection}, {" 7 users", 7}, {"many", 0},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.text);
-        showItem(173, kWinlogon + "\n\"CachedLogonsCount\"=\"" + each.text + '"');
-        EXPECT_EQ(shownPage(program())->comboCount(IDC_COMBO1), 51);
-        EXPECT_EQ(combo(), each.entry);
-    }
-    showItem(173, kWinlogon);
-    EXPECT_EQ(combo(), kNoSelection);
-    const std::string value = kWinlogon + " \"CachedLogonsCount\"=\"";
-    EXPECT_EQ(applied(), '+' + value + "-1\"\n");
-    ASSERT_TRUE(program().pick(IDC_COMBO1, 50));
-    EXPECT_EQ(applied(), '-' + value + "-1\"\n+" + value + "50\"\n");
-}
-
-TEST_P(Login, OnlyTheAuthenticationModeHasAFirstChoice) {
-    showItem(176, kWinlogon);
-    EXPECT_EQ(combo(), 0);
-    EXPECT_EQ(applied(), '+' + kWinlogon + " \"ForceUnlockLogon\"=dword:00000000\n");
-    showItem(176, kWinlogon + "\n\"ForceUnlockLogon\"=dword:2");
-    EXPECT_EQ(combo(), kNoSelection);
-    showItem(160, kWinlogon);
-    EXPECT_EQ(combo(), kNoSelection);
-    EXPECT_EQ(applied(), '+' + kWinlogon + " \"LogonType\"=dword:ffffffff\n");
+TEST_P(Login, UnreadMailMakesItsKeyAndIsCountedForThreeDaysOrNotAtAll) {
+    const std::string key = user(kCurrentVersion + "\\UnreadMail");
+    open(166);
+    EXPECT_EQ(apply(), (Changes{addedKey(key), added(key, number("MessageExpiryDays", 3))}));
+    click();
+    EXPECT_EQ(apply(), replaced(key, number("MessageExpiryDays", 3), number("MessageExpiryDays", 0)));
 }
 
 // ---- By Windows family
 
 TEST_P(Login, TheLastUserNameIsHiddenWhereTheFamilyLooksForIt) {
-    const std::string network = "[HKEY_LOCAL_MACHINE\\Network\\Logon]";
-    const std::string number = " \"DontDisplayLastUserName\"=dword:0000000";
-    const std::string text = " \"DontShowLastUser\"=\"";
-    struct {
-        const char* windows;
-        std::string value;  // up to its last digit; empty: the family has none
-        const char* end;
-    } const cases[] = {
-        {"95", "", ""},
-        {"98", network + text, "\"\n"},
-        {"me", network + text, "\"\n"},
-        {"nt4", kWinlogon + number, "\n"},
-        {"2000", kSystemPolicies + number, "\n"},
-        {"xp", kSystemPolicies + number, "\n"},
-        {"2003", kSystemPolicies + number, "\n"},
-        {"vista", "", ""},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.windows);
-        const bool known = !each.value.empty();
-        showItem(169, kWinlogon + '\n' + kSystemPolicies + '\n' + network, each.windows);
-        EXPECT_EQ(box(), 0u);
-        ASSERT_TRUE(program().click(IDC_CHECK1));
-        EXPECT_EQ(applied(), known ? '+' + each.value + '1' + each.end : "");
-        EXPECT_EQ(stamped("Hide the Last User Name"), known);
+    const std::string network = machine("Network\\Logon");
+    const std::string policies = machine("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System");
+    const std::string name = "DontDisplayLastUserName";
+    const std::string onMe = added(network, text("DontShowLastUser", "1"));
+    const std::string onXp = added(policies, number(name, 1));
+    const std::pair<const char*, std::string> cases[] = {
+        {"95", ""},     {"98", onMe}, {"me", onMe},   {"nt4", added(kWinlogon, number(name, 1))},
+        {"2000", onXp}, {"xp", onXp}, {"2003", onXp}, {"vista", ""}};
+    for (const auto& [windows, change] : cases) {
+        SCOPED_TRACE(windows);
+        open(169, block(kWinlogon) + block(policies) + block(network), windows);
+        click();
+        EXPECT_EQ(apply(), change.empty() ? Changes{} : Changes{change});
+        EXPECT_EQ(dated(169), !change.empty());
         EXPECT_EQ(alerts(),
-                  each.windows == std::string_view("95") ? "These Tweak active only on Windows 2000/XP/98/Me/NT" : "");
+                  windows == std::string_view("95") ? "These Tweak active only on Windows 2000/XP/98/Me/NT" : "");
         program().select(155);
         program().select(169);
-        EXPECT_EQ(box(), known ? 1u : 0u);
-        if (known) {
-            ASSERT_TRUE(program().click(IDC_CHECK1));
-            EXPECT_EQ(applied(), '-' + each.value + '1' + each.end + '+' + each.value + '0' + each.end);
-        }
+        EXPECT_EQ(box(), change.empty() ? 0u : 1u);
     }
 }
 
 TEST_P(Login, TheLegalNoticeIsWhereTheFamilyLooksForIt) {
-    const std::string values = "\"LegalNoticeCaption\"=\"Old title\"\n\"LegalNoticeText\"=\"Old text\"\n";
+    const std::string winlogon9x = machine("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Winlogon");
     for (const std::string_view windows : everyWindows()) {
         SCOPED_TRACE(windows);
         const bool nt = windows == "nt4" || windows == "2000" || windows == "xp" || windows == "2003";
-        const std::string& own = nt ? kWinlogon : kWinlogon9x;
-        showItem(171, own + '\n' + values + (nt ? kWinlogon9x : kWinlogon), windows);
-        EXPECT_EQ(edit(), "Old title");
-        EXPECT_EQ(edit(IDC_EDIT2), "Old text");
-        ASSERT_TRUE(program().type(IDC_EDIT1, ""));
-        ASSERT_TRUE(program().type(IDC_EDIT2, "Keep out"));
-        EXPECT_EQ(applied(), '-' + own + " \"LegalNoticeCaption\"=\"Old title\"\n-" + own +
-                                 " \"LegalNoticeText\"=\"Old text\"\n+" + own + " \"LegalNoticeText\"=\"Keep out\"\n");
+        const std::string& own = nt ? kWinlogon : winlogon9x;
+        open(171, block(own, text("LegalNoticeCaption", "Title")) + block(nt ? winlogon9x : kWinlogon), windows);
+        EXPECT_EQ(edit(), "Title");
+        type(IDC_EDIT1, "");
+        type(IDC_EDIT2, "Keep out");
+        EXPECT_EQ(apply(), (Changes{removed(own, text("LegalNoticeCaption", "Title")),
+                                    added(own, text("LegalNoticeText", "Keep out"))}));
     }
 }
 

@@ -50,13 +50,21 @@ inline void putInTheWay(PageFixture& page, Obstacle obstacle, const std::string&
     }
 }
 
+class OneControl : public PageFixture {
+protected:
+    OneControl(Page page, std::string_view blocks, Stamp stamp)
+        : tweak_{.id = 7, .title = "T", .description = "D", .page = page, .stamp = stamp} {
+        load(blocks);
+    }
+    Tweak tweak_;
+};
+
 // A page with one check box.
-class OneBox : public PageFixture {
+class OneBox : public OneControl {
 public:
     explicit OneBox(const CheckBinding& binding, std::string_view blocks = {}, Stamp stamp = Stamp::BeforeOpening)
-        : box_{.text = "Box", .binding = binding},
-          tweak_{.id = 7, .title = "T", .description = "D", .page = Page::Checks, .boxes = {&box_, 1}, .stamp = stamp} {
-        load(blocks);
+        : OneControl(Page::Checks, blocks, stamp), box_{.text = "Box", .binding = binding} {
+        tweak_.boxes = {&box_, 1};
     }
 
     bool shown() {
@@ -77,21 +85,14 @@ public:
 
 private:
     CheckBox box_;
-    Tweak tweak_;
 };
 
 // A page with one edit box.
-class OneField : public PageFixture {
+class OneField : public OneControl {
 public:
     explicit OneField(const FieldBinding& binding, std::string_view blocks = {}, Stamp stamp = Stamp::BeforeOpening)
-        : field_{.label = "Field", .binding = binding},
-          tweak_{.id = 7,
-                 .title = "T",
-                 .description = "D",
-                 .page = Page::PathFields,
-                 .fields = {&field_, 1},
-                 .stamp = stamp} {
-        load(blocks);
+        : OneControl(Page::PathFields, blocks, stamp), field_{.label = "Field", .binding = binding} {
+        tweak_.fields = {&field_, 1};
     }
 
     std::string shown() {
@@ -99,7 +100,6 @@ public:
         show(tweak_);
         return dialog(Page::PathFields).text(IDC_EDIT1);
     }
-
     std::string applied(std::string_view text) {
         if (shown() != text) {
             EXPECT_TRUE(dialog(Page::PathFields).typeText(IDC_EDIT1, text));
@@ -110,43 +110,31 @@ public:
 
 private:
     Field field_;
-    Tweak tweak_;
 };
 
 // A page with one combo box.
-class OneChoice : public PageFixture {
+class OneChoice : public OneControl {
 public:
     explicit OneChoice(const ChoiceBinding& binding, std::string_view blocks = {}, Stamp stamp = Stamp::BeforeOpening)
-        : choice_{.label = "Choice", .binding = binding},
-          tweak_{.id = 7,
-                 .title = "T",
-                 .description = "D",
-                 .page = Page::Combos,
-                 .choices = {&choice_, 1},
-                 .stamp = stamp} {
-        load(blocks);
+        : OneControl(Page::Combos, blocks, stamp), choice_{.label = "Choice", .binding = binding} {
+        tweak_.choices = {&choice_, 1};
     }
 
     int shown() {
         show(tweak_);
         return dialog(Page::Combos).comboSelection(IDC_COMBO1);
     }
-
     // kNoSelection: a text was typed instead.
     std::string applied(int index) {
         show(tweak_);
-        if (index == kNoSelection) {
-            EXPECT_TRUE(dialog(Page::Combos).typeText(IDC_COMBO1, "something else"));
-        } else {
-            EXPECT_TRUE(dialog(Page::Combos).pickComboEntry(IDC_COMBO1, index));
-        }
+        EXPECT_TRUE(index == kNoSelection ? dialog(Page::Combos).typeText(IDC_COMBO1, "something else")
+                                          : dialog(Page::Combos).pickComboEntry(IDC_COMBO1, index));
         apply(tweak_);
         return state();
     }
 
 private:
     Choice choice_;
-    Tweak tweak_;
 };
 
 }  // namespace korvane
