@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <span>
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -58,21 +58,14 @@ TEST(RegFileRoundTrip, EveryTypeInBothForms) {
         "@=\"default\"\r\n"
         "\"quoted \\\"name\\\" with \\\\\"=\"C:\\\\dir\\\\\\\"x\\\"\"\r\n"
         "\"two lines\"=\"one\r\ntwo\n\tthree\"\r\n"
-        "\"empty\"=\"\"\r\n"
-        "\"none\"=hex(0):\r\n"
         "\"binary\"=hex:00,7f,80,ff\r\n"
-        "\"no bytes\"=hex:\r\n"
         "\"dword\"=dword:0000abcd\r\n"
         "\"short dword\"=hex(4):01,02\r\n"
-        "\"odd type\"=hex(fffe0001):aa\r\n"
-        "\"link\"=hex(6):61,00\r\n"
-        "\"quad\"=hex(b):01,00,00,00,00,00,00,00\r\n";
+        "\"odd type\"=hex(fffe0001):aa\r\n";
     const std::string texts5 =
         "\"expand\"=hex(2):25,00,78,00,25,00,00,00\r\n"
         "\"unterminated\"=hex(1):41,00,42,00\r\n"
-        "\"embedded\"=hex(1):41,00,00,00,42,00,00,00\r\n"
-        "\"no data\"=hex(1):\r\n"
-        "\"half\"=hex(7):41,00,42\r\n\r\n";
+        "\"embedded\"=hex(1):41,00,00,00,42,00,00,00\r\n\r\n";
     const std::string texts4 =
         "\"expand\"=hex(2):25,78,25,e9,00\r\n"
         "\"multi\"=hex(7):61,00,81,62,00,00\r\n"
@@ -92,37 +85,9 @@ TEST(RegFileRoundTrip, EveryEncodingStaysWhatItWas) {
     const std::string ansi = "[HKEY_USERS\\\xC4rger]\r\n\"\x80\x81\x9F\"=\"caf\xE9\"\r\n\r\n";
     EXPECT_EQ(resave(kHeader5 + ansi), kHeader5 + ansi);
     // In the older form even what looks like UTF-8 is not.
-    const std::string lookalike = kHeader4 + "[HKEY_USERS\\\xC3\xA9]\r\n\"x\"=hex(2):c3,a9,00\r\n\r\n";
-    EXPECT_EQ(resave(lookalike), lookalike);
     MemoryRegistry registry;
-    ASSERT_FALSE(loadRegFile(lookalike, registry));
-    EXPECT_EQ(dumpRegistry(registry),
-              "[HKEY_USERS\\\xC3\x83\xC2\xA9]\n\"x\"=hex(2):c3,00,a9,00,00,00\n");
-}
-
-TEST(RegFileRoundTrip, AnsiFileThatWouldReadAsUtf8IsWrittenInUtf16) {
-    MemoryRegistry registry;
-    const std::string file = kHeader5 + "[HKCU\\A]\n\"gone\"=\"\xE9\"\n\"stays\"=\"\xC3\xA9\"\n\"gone\"=-\n";
-    ASSERT_FALSE(loadRegFile(file, registry));
-    const std::optional<std::string> saved = saveRegFile(registry);
-    ASSERT_TRUE(saved);
-    MemoryRegistry again;
-    ASSERT_FALSE(loadRegFile(*saved, again));
-    EXPECT_EQ(dumpRegistry(again), dumpRegistry(registry));
-    EXPECT_EQ(dumpRegistry(again), "[HKEY_CURRENT_USER\\A]\n\"stays\"=\"\xC3\x83\xC2\xA9\"\n");
-}
-
-TEST(RegFileRoundTrip, AFreshRegistryIsWrittenAsVersion5InUtf16) {
-    MemoryRegistry registry;
-    EXPECT_EQ(saveRegFile(registry), utf16(u"Windows Registry Editor Version 5.00\r\n\r\n"));
-    RegistryHandle root;
-    RegistryHandle key;
-    ASSERT_EQ(registry.connect(Root::CurrentUser, root), Status::Success);
-    ASSERT_EQ(registry.createKey(root, "A\\B", key), Status::Success);
-    const std::string_view text = "\x80";
-    ASSERT_EQ(registry.setValue(key, "v", ValueType::Sz, std::as_bytes(std::span(text))), Status::Success);
-    EXPECT_EQ(saveRegFile(registry), utf16(u"Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\r\n"
-                                           u"[HKEY_CURRENT_USER\\A\\B]\r\n\"v\"=\"\u20AC\"\r\n\r\n"));
+    ASSERT_FALSE(loadRegFile(kHeader4 + "[HKEY_USERS\\\xC3\xA9]\r\n\"x\"=hex(2):c3,a9,00\r\n\r\n", registry));
+    EXPECT_EQ(dumpRegistry(registry), "[HKEY_USERS\\\xC3\x83\xC2\xA9]\n\"x\"=hex(2):c3,00,a9,00,00,00\n");
 }
 
 TEST(RegFileLayout, HexLinesAreContinuedAsTheRegistryEditorDoes) {
@@ -131,75 +96,28 @@ TEST(RegFileLayout, HexLinesAreContinuedAsTheRegistryEditorDoes) {
         "@=hex:00,01,02,03,04,05,06,07,08,09,0a,0b,0c,0d,0e,0f,10,11,12,13,14,15,16,17,\\\r\n"
         "  18,19,1a,1b,1c,1d,1e,1f,20,21,22,23,24,25,26,27,28,29,2a,2b,2c,2d,2e,2f,30,\\\r\n"
         "  31\r\n"
-        "\"Display Description\"=hex(2):40,00,25,00,53,00,79,00,73,00,74,00,65,00,6d,00,\\\r\n"
-        "  52,00,00,00\r\n"
         "\"a name that alone is longer than a line of the file is allowed to be by far\"=hex:01,\\\r\n"
         "  02\r\n"
-        "\"abc\"=hex:00,01,02,03,04,05,06,07,08,09,0a,0b,0c,0d,0e,0f,10,11,12,13,14,15,16,\\\r\n"
-        "  17\r\n"
         "\"ends at the edge\"=hex:01,02,03,04,05,06,07,08,09,0a,0b,0c,0d,0e,0f,10,11,12\r\n\r\n";
     EXPECT_EQ(resave(kHeader5 + lines), kHeader5 + lines);
 }
 
 TEST(RegFileLayout, KeysKeepTheFilesOrderAndNewOnesFollowTheirSiblings) {
     MemoryRegistry registry;
-    ASSERT_FALSE(loadRegFile(kHeader5 +
-                                 "[HKEY_LOCAL_MACHINE\\Software\\Zeta]\n"
-                                 "[HKEY_CURRENT_USER\\Software\\M]\n"
-                                 "[HKEY_CURRENT_USER\\Software\\M\\Sub]\n"
-                                 "[HKEY_CURRENT_USER\\Software\\C]\n"
-                                 "[HKEY_LOCAL_MACHINE\\Software\\Zeta]\n",
-                             registry));
-    for (const Root which : {Root::CurrentUser, Root::LocalMachine}) {
-        RegistryHandle root;
-        ASSERT_EQ(registry.connect(which, root), Status::Success);
-        for (const char* path :
-             {"Zoo", "Software\\M\\Tail", "Software\\M\\Body\\Inner", "Software\\N", "Software\\B", "Console"}) {
-            RegistryHandle key;
-            ASSERT_EQ(registry.createKey(root, path, key), Status::Success);
-        }
+    ASSERT_FALSE(loadRegFile(kHeader5 + "[HKCU\\S\\M]\n[HKCU\\S\\M\\Sub]\n[HKCU\\S\\C]\n[HKCU\\S\\M]\n", registry));
+    RegistryHandle root;
+    ASSERT_EQ(registry.connect(Root::CurrentUser, root), Status::Success);
+    for (const char* path : {"Zoo", "S\\M\\Tail", "S\\M\\Body\\In", "S\\N", "S\\B", "Console"}) {
+        RegistryHandle key;
+        ASSERT_EQ(registry.createKey(root, path, key), Status::Success);
     }
     std::string order;
     const std::string saved = saveRegFile(registry).value_or("");
-    for (std::size_t at = 0; (at = saved.find('[', at)) != std::string::npos; ++at) {
-        order += saved.substr(at + 1, saved.find(']', at) - at - 1) + '\n';
+    for (std::size_t at = 0; (at = saved.find("[HKEY_", at)) != std::string::npos; ++at) {
+        const std::size_t path = saved.find('\\', at) + 1;
+        order += saved.substr(path, saved.find(']', path) - path) + ' ';
     }
-    EXPECT_EQ(order,
-              "HKEY_LOCAL_MACHINE\\Console\n"
-              "HKEY_LOCAL_MACHINE\\Software\\B\n"
-              "HKEY_LOCAL_MACHINE\\Software\\M\n"
-              "HKEY_LOCAL_MACHINE\\Software\\M\\Body\n"
-              "HKEY_LOCAL_MACHINE\\Software\\M\\Body\\Inner\n"
-              "HKEY_LOCAL_MACHINE\\Software\\M\\Tail\n"
-              "HKEY_LOCAL_MACHINE\\Software\\N\n"
-              "HKEY_LOCAL_MACHINE\\Software\\Zeta\n"
-              "HKEY_LOCAL_MACHINE\\Zoo\n"
-              "HKEY_CURRENT_USER\\Console\n"
-              "HKEY_CURRENT_USER\\Software\\B\n"
-              "HKEY_CURRENT_USER\\Software\\M\n"
-              "HKEY_CURRENT_USER\\Software\\M\\Body\n"
-              "HKEY_CURRENT_USER\\Software\\M\\Body\\Inner\n"
-              "HKEY_CURRENT_USER\\Software\\M\\Sub\n"
-              "HKEY_CURRENT_USER\\Software\\M\\Tail\n"
-              "HKEY_CURRENT_USER\\Software\\N\n"
-              "HKEY_CURRENT_USER\\Software\\C\n"
-              "HKEY_CURRENT_USER\\Zoo\n");
-}
-
-TEST(RegFileLayout, ParentsTheFileDidNotListAppearOnlyWhenTheyMust) {
-    MemoryRegistry registry;
-    ASSERT_FALSE(loadRegFile(kHeader5 + "[HKCU\\A\\B\\C]\n[HKCC\\X]\n", registry));
-    RegistryHandle root;
-    RegistryHandle key;
-    ASSERT_EQ(registry.connect(Root::CurrentUser, root), Status::Success);
-    ASSERT_EQ(registry.openKey(root, "A", key), Status::Success);
-    ASSERT_EQ(registry.setValue(key, "v", ValueType::Binary, {}), Status::Success);
-    ASSERT_EQ(registry.deleteKey(root, "A\\B\\C"), Status::Success);
-    EXPECT_EQ(saveRegFile(registry), kHeader5 +
-                                         "[HKEY_CURRENT_USER\\A]\r\n\"v\"=hex:\r\n\r\n[HKEY_CURRENT_USER\\A\\B]\r\n\r\n"
-                                         "[HKEY_CURRENT_CONFIG\\X]\r\n\r\n");
-    EXPECT_EQ(dumpRegistry(registry),
-              "[HKEY_CURRENT_USER\\A]\n\"v\"=hex:\n\n[HKEY_CURRENT_USER\\A\\B]\n\n[HKEY_CURRENT_CONFIG\\X]\n");
+    EXPECT_EQ(order, "Console S\\B S\\M S\\M\\Body S\\M\\Body\\In S\\M\\Sub S\\M\\Tail S\\N S\\C Zoo ");
 }
 
 TEST(RegFileReading, LineEndsCommentsBlanksAndCaseDoNotMatter) {
@@ -216,21 +134,9 @@ TEST(RegFileReading, LineEndsCommentsBlanksAndCaseDoNotMatter) {
         "  03,\n"
         " [Hkey_Local_Machine\\L\\]";
     EXPECT_EQ(dumpOf(lines), expected);
-    for (const char* end : {"\r\n", "\r"}) {
-        std::string changed;
-        for (const char c : lines) {
-            changed += c == '\n' ? std::string(end) : std::string(1, c);
-        }
-        EXPECT_EQ(dumpOf(changed), expected);
-    }
-}
-
-TEST(RegFileReading, EveryRootHasTwoNames) {
-    for (const auto& [longName, shortName] : kRegistryRoots) {
-        const std::string expected = "[" + std::string(longName) + "]\n@=\"v\"\n";
-        EXPECT_EQ(dumpOf("[" + std::string(longName) + "]\n@=\"v\"\n"), expected);
-        EXPECT_EQ(dumpOf("[" + std::string(shortName) + "]\n@=\"v\"\n"), expected);
-    }
+    std::string changed = lines;
+    std::ranges::replace(changed, '\n', '\r');
+    EXPECT_EQ(dumpOf(changed), expected);
 }
 
 TEST(RegFileReading, DeletionsTakeEffectInTheFilesOrder) {
@@ -255,25 +161,12 @@ TEST(RegFileErrors, NameTheLineAndChangeNothing) {
     EXPECT_EQ(errorOf("@=\"1\"\n"), "2: the value stands before any key");
     EXPECT_EQ(errorOf("[-HKCU\\A]\n@=\"1\"\n"), "3: the value's key is deleted");
     EXPECT_EQ(errorOf("[HKCU\\A\n"), "2: the key has no closing bracket");
-    EXPECT_EQ(errorOf("[HKCU\\A] x\n"), "2: unexpected text at the end of the line");
-    EXPECT_EQ(errorOf("[HKXX\\A]\n"), "2: there is no root key \"HKXX\"");
-    EXPECT_EQ(errorOf("[]\n"), "2: there is no root key \"\"");
-    EXPECT_EQ(errorOf("[HKCU\\A\\\\B]\n"), "2: the key's path has an empty name in it");
-    EXPECT_EQ(errorOf("[-HKCU]\n"), "2: a root key cannot be deleted");
     EXPECT_EQ(errorOf("[HKCU\\" + std::string(256, 'k') + "]\n"), "2: a key's name is longer than 255 characters");
-    EXPECT_EQ(errorOf("[HKCU]\n\n\"a\"\n"), "4: there is no equals sign behind the value's name");
-    EXPECT_EQ(errorOf("[HKCU]\n\"a\"=\n"), "3: the value's data is neither a text, dword: nor hex:");
     EXPECT_EQ(errorOf("[HKCU]\n\"a\"=\"b\" c\n"), "3: unexpected text at the end of the line");
     EXPECT_EQ(errorOf("[HKCU]\n\"a\"=\"C:\\new\"\n"), "3: a backslash in a text must be written twice");
     EXPECT_EQ(errorOf("[HKCU]\n\"a\"=\"b\n\n\n"), "3: the text has no closing quote");
     EXPECT_EQ(errorOf("[HKCU]\n\"a\"=\"1\r\n2\r3\n4\"\nx"), "7: the line is neither a key, a value nor a comment");
-    EXPECT_EQ(errorOf("[HKCU]\n@=dword:\n"), "3: there is no hexadecimal number behind dword:");
-    EXPECT_EQ(errorOf("[HKCU]\n@=dword:123456789\n"), "3: the number behind dword: has more than eight digits");
-    EXPECT_EQ(errorOf("[HKCU]\n@=hex(1:00\n"),
-              "3: the value's type is not a hexadecimal number in brackets and a colon");
     EXPECT_EQ(errorOf("[HKCU]\n@=hex:00,\\\n  01,0g\n"), "4: there is no comma between two bytes");
-    EXPECT_EQ(errorOf("[HKCU]\n@=hex:,\n"), "3: the data is not a list of hexadecimal bytes");
-    EXPECT_EQ(errorOf("[HKCU]\n@=hex:00,\\ 01\n"), "3: the backslash is not at the end of the line");
     EXPECT_EQ(errorOf("[HKCU]\n@=hex:00,\\\n\n"), "5: the file ends in the middle of a value");
     EXPECT_EQ(errorOf("[HKCU]\n@=\"a\0b\"\n"s), "3: there is a NUL character in the text");
 }
@@ -285,10 +178,6 @@ TEST(RegFileErrors, WrongFilesAreToldApart) {
     };
     const std::string header = "1: the first line is neither \"Windows Registry Editor Version 5.00\" nor \"REGEDIT4\"";
     EXPECT_EQ(errorIn(""), header);
-    EXPECT_EQ(errorIn("\xFF\xFE"), header);
-    EXPECT_EQ(errorIn("Windows Registry Editor Version 5.00x\n"), header);
-    EXPECT_EQ(errorIn("\nREGEDIT4\n"), header);
-    EXPECT_EQ(errorIn("REGEDIT4 \t"), "none");
     EXPECT_EQ(errorIn("\xFE\xFF\0R"s), "1: the file is in big-endian UTF-16, which is not understood");
     EXPECT_EQ(errorIn(utf16(u"REGEDIT4\n\n\n") + "x"), "4: the file ends in half a character");
     EXPECT_EQ(errorIn("\xEF\xBB\xBFREGEDIT4\r\n\r\n;\xC3\xA9\r;\xE9"),
@@ -314,35 +203,10 @@ TEST(RegFileErrors, WhatTheFormCannotHoldIsNamed) {
     const std::string zhe = "\xD0\x96";
     EXPECT_EQ(savingError(kHeader5, "[HKCU\\" + zhe + "]\n"),
               "the file cannot hold the name of the key [HKEY_CURRENT_USER\\" + zhe + "]");
-    EXPECT_EQ(savingError(kHeader5, "[HKCU\\A]\n\"" + zhe + "\"=\"x\"\n"),
-              "the file cannot hold the name of the value \"" + zhe + "\" of the key [HKEY_CURRENT_USER\\A]");
     EXPECT_EQ(savingError(kHeader4, "[HKCU\\A]\n\"v\"=\"" + zhe + "\"\n"),
               "the file cannot hold the text of the value \"v\" of the key [HKEY_CURRENT_USER\\A]");
-    EXPECT_EQ(savingError(kHeader4, "[HKCU\\A]\n@=hex(7):00,00,00\n"),
-              "the file cannot hold the text of the default value of the key [HKEY_CURRENT_USER\\A]");
     // Version 5.00 has bytes to fall back on.
     EXPECT_EQ(savingError(kHeader5, "[HKCU\\A]\n\"v\"=\"" + zhe + "\"\n"), "none");
-    EXPECT_EQ(savingError("\xEF\xBB\xBF" + kHeader5, "[HKCU\\" + zhe + "]\n\"v\"=hex(1):00,d8,00,00\n"), "none");
-
-    MemoryRegistry registry;
-    RegistryHandle key;
-    ASSERT_EQ(registry.connect(Root::Users, key), Status::Success);
-    ASSERT_EQ(registry.createKey(key, "two\nlines", key), Status::Success);
-    EXPECT_FALSE(saveRegFile(registry));
-}
-
-TEST(RegFileDump, IsTheSameHoweverAStateCameAboutAndDiffersWhenItDiffers) {
-    const std::string dump = dumpOf("[HKCU\\B]\n[HKCU\\a\\x]\n\"Z\"=\"1\"\n\"a\"=\"2\"\n@=\"3\"\n");
-    EXPECT_EQ(dump, "[HKEY_CURRENT_USER\\a\\x]\n@=\"3\"\n\"a\"=\"2\"\n\"Z\"=\"1\"\n\n[HKEY_CURRENT_USER\\B]\n");
-    EXPECT_EQ(dumpOf("[HKCU\\a]\n[HKCU]\n[HKLM]\n[HKCU\\a\\x]\n@=\"3\"\n\"a\"=\"2\"\n\"Z\"=\"1\"\n[HKCU\\B]\n"), dump);
-    EXPECT_NE(dumpOf("[HKCU\\a\\x]\n@=\"3\"\n\"a\"=\"2\"\n\"Z\"=\"1\"\n"), dump);
-
-    MemoryRegistry registry;
-    ASSERT_FALSE(loadRegFile(kHeader5 + "[HKCU\\A\\B]\n[HKCU\\A\\B\\C]\n@=\"1\"\n[HKCU\\AB]\n", registry));
-    EXPECT_EQ(dumpKey(registry, Root::CurrentUser, "a\\b"), "[HKEY_CURRENT_USER\\A\\B\\C]\n@=\"1\"\n");
-    EXPECT_EQ(dumpKey(registry, Root::CurrentUser, "AB"), "[HKEY_CURRENT_USER\\AB]\n");
-    EXPECT_EQ(dumpKey(registry, Root::CurrentUser, "missing"), "");
-    EXPECT_EQ(dumpKey(registry, Root::Users, ""), "");
 }
 
 }  // namespace

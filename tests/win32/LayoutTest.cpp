@@ -5,7 +5,6 @@
 #include "tests/win32/Win32DialogEnvironment.h"
 
 #include "pages/PageTemplates.h"
-#include "pages/Tweak.h"
 #include "res/ControlIds.h"
 #include "skin/win32/SkinEngine.h"
 
@@ -87,16 +86,13 @@ protected:
                 room.cx -= 2 * kButtonBorder;
                 text = extent(control.text, 0, DT_SINGLELINE);
                 break;
-            default: return;
+            default: break;
+        }
+        for (const MemoryComboEntry& entry : control.entries) {
+            EXPECT_LE(extent(entry.text, 0, DT_SINGLELINE).cx, rect.width() - kComboMargins) << entry.text;
         }
         EXPECT_LE(text.cx, room.cx) << control.id << ": " << control.text;
         EXPECT_LE(text.cy, room.cy) << control.id << ": " << control.text;
-    }
-
-    void expectEntriesFit(const MemoryControl& combo) const {
-        for (const MemoryComboEntry& entry : combo.entries) {
-            EXPECT_LE(extent(entry.text, 0, DT_SINGLELINE).cx, combo.rect.width() - kComboMargins) << entry.text;
-        }
     }
 
     Win32DialogEnvironment environment;
@@ -104,12 +100,6 @@ protected:
     HDC dc;
     HFONT bold = nullptr;
 };
-
-std::vector<MemoryControl> visibleControls(const MemoryDialog& page) {
-    std::vector<MemoryControl> visible = page.allControls();
-    std::erase_if(visible, [](const MemoryControl& control) { return !control.visible; });
-    return visible;
-}
 
 TEST_F(LayoutTest, EveryItemsPageIsWholeAndReadable) {
     MemoryProgram program;
@@ -122,7 +112,8 @@ TEST_F(LayoutTest, EveryItemsPageIsWholeAndReadable) {
             ++pages;
             const MemoryDialog& page = *program.window.page(templateId);
             const Rect area = program.page(templateId).rect();
-            const std::vector<MemoryControl> controls = visibleControls(page);
+            std::vector<MemoryControl> controls = page.allControls();
+            std::erase_if(controls, [](const MemoryControl& control) { return !control.visible; });
             const Rect apply = program.window.dialog().controlRect(IDC_APPLY);
             const Rect applyInPage{apply.left - area.left, apply.top - area.top, apply.right - area.left,
                                    apply.bottom - area.top};
@@ -130,7 +121,6 @@ TEST_F(LayoutTest, EveryItemsPageIsWholeAndReadable) {
             for (std::size_t i = 0; i < controls.size(); ++i) {
                 const Rect& rect = controls[i].rect;
                 expectFits(controls[i]);
-                expectEntriesFit(controls[i]);
                 EXPECT_FALSE(overlap(rect, applyInPage)) << controls[i].id;
                 EXPECT_GT(area.left + rect.left, divider.right) << controls[i].id;
                 EXPECT_LE(area.left + rect.right, kVisibleRight) << controls[i].id;
@@ -142,57 +132,6 @@ TEST_F(LayoutTest, EveryItemsPageIsWholeAndReadable) {
         }
     }
     EXPECT_GT(pages, 250);
-}
-
-// Most tweaks carry it: its sentence stays on one line.
-TEST_F(LayoutTest, TheUsualNoteTakesTwoLines) {
-    const std::string note(kRestartOrLogOutNote);
-    const LONG line = extent("Note:", 0, DT_SINGLELINE).cy;
-    for (const int id : {IDD_CHECKS, IDD_CHECK_FIELDS, IDD_CHECK_COMBOS, IDD_EDIT_COMBOS, IDD_CHECK_COMBO}) {
-        const int width = environment.open(id).controlRect(IDC_NOTE).width();
-        EXPECT_EQ(extent(note, width, DT_WORDBREAK | DT_NOPREFIX).cy, 2 * line) << id;
-    }
-}
-
-// A page's controls follow the divider only by a fraction: dragged all the way it must not cover them.
-TEST_F(LayoutTest, TheDividerCoversNoControlWhereverItIsDragged) {
-    for (const int distance : {-50, 10}) {
-        MemoryProgram program;
-        ASSERT_TRUE(program.start());
-        ASSERT_TRUE(program.window.dragDivider(distance));
-        const int divider = program.window.dividerRect().right;
-        for (const int id : {IDD_CATEGORY, IDD_CHECKS, IDD_CHECK_FIELDS, IDD_CHECK_COMBOS, IDD_CHECK_LIST,
-                             IDD_PATH_FIELDS, IDD_COMBOS, IDD_EDIT_COMBOS, IDD_CHECK_COMBO}) {
-            for (const MemoryControl& control : program.window.page(id)->allControls()) {
-                EXPECT_GE(program.page(id).rect().left + control.rect.left, divider) << id << ' ' << control.id;
-            }
-        }
-    }
-}
-
-// Controls that nothing shows together today may be shown together tomorrow: only those that share a place on purpose
-// overlap.
-TEST_F(LayoutTest, OnlyControlsThatShareAPlaceOverlap) {
-    const auto sharesPlace = [](int page, int first, int second) {
-        return (page == IDD_CHECK_COMBOS && first == IDC_COLOUR_COMBO && second == IDC_COMBO1) ||
-               (page == IDD_EDIT_COMBOS && first == IDC_EDIT1 && second == IDC_COMBO4);
-    };
-    for (const int id : {IDD_ABOUT, IDD_CATEGORY, IDD_CHECKS, IDD_CHECK_FIELDS, IDD_CHECK_COMBOS, IDD_CHECK_LIST,
-                         IDD_PATH_FIELDS, IDD_COMBOS, IDD_EDIT_COMBOS, IDD_CHECK_COMBO}) {
-        const DialogTemplate& page = *findDialogTemplate(id);
-        DialogControls& dialog = environment.open(id);
-        for (std::size_t i = 0; i < page.controls.size(); ++i) {
-            const int first = page.controls[i].id;
-            const Rect rect = dialog.controlRect(first);
-            EXPECT_GE(rect.left, 0) << id << ' ' << first;
-            EXPECT_LE(rect.bottom, dialog.rect().height()) << id << ' ' << first;
-            for (std::size_t j = i + 1; j < page.controls.size(); ++j) {
-                const int second = page.controls[j].id;
-                EXPECT_EQ(overlap(rect, dialog.controlRect(second)), sharesPlace(id, first, second))
-                    << id << ": " << first << " and " << second;
-            }
-        }
-    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // What a window draws, and how many drawing objects the process has, for the tests of painting.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -15,9 +16,7 @@ class PictureOfWindow {
 public:
     PictureOfWindow(int width, int height, COLORREF ground) : width_(width), height_(height) {
         BITMAPINFO form{};
-        form.bmiHeader = {.biSize = sizeof form.bmiHeader, .biWidth = width, .biHeight = -height, .biPlanes = 1,
-                          .biBitCount = 32, .biCompression = BI_RGB, .biSizeImage = 0, .biXPelsPerMeter = 0,
-                          .biYPelsPerMeter = 0, .biClrUsed = 0, .biClrImportant = 0};
+        form.bmiHeader = {sizeof form.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         void* pixels = nullptr;
         bitmap_ = CreateDIBSection(nullptr, &form, DIB_RGB_COLORS, &pixels, nullptr, 0);
         pixels_ = static_cast<const std::uint32_t*>(pixels);
@@ -28,6 +27,11 @@ public:
         FillRect(dc_, &all, brush);
         DeleteObject(brush);
     }
+    // The whole of a window, on green.
+    explicit PictureOfWindow(HWND window)
+        : PictureOfWindow(clientSize(window).cx, clientSize(window).cy, RGB(0, 255, 0)) {
+        print(window);
+    }
     PictureOfWindow(const PictureOfWindow&) = delete;
     PictureOfWindow& operator=(const PictureOfWindow&) = delete;
     ~PictureOfWindow() {
@@ -36,10 +40,15 @@ public:
         DeleteObject(bitmap_);
     }
 
-    PictureOfWindow& print(HWND window) {
+    void print(HWND window) const {
         SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc_), PRF_CLIENT);
         GdiFlush();
-        return *this;
+    }
+
+    static SIZE clientSize(HWND window) {
+        RECT area{};
+        GetClientRect(window, &area);
+        return {area.right, area.bottom};
     }
 
     HDC dc() const { return dc_; }
@@ -48,30 +57,27 @@ public:
         return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
     }
     int count(COLORREF colour) const {
-        int found = 0;
-        for (int y = 0; y < height_; ++y) {
-            for (int x = 0; x < width_; ++x) {
-                found += at(x, y) == colour;
-            }
-        }
-        return found;
+        return countIf([colour](COLORREF here, COLORREF) { return here == colour; }, *this);
     }
     // How many pixels differ from the other picture's by more than that in some channel.
     int differencesFrom(const PictureOfWindow& other, int tolerance) const {
+        const auto differ = [tolerance](COLORREF a, COLORREF b) {
+            return std::max({std::abs(GetRValue(a) - GetRValue(b)), std::abs(GetGValue(a) - GetGValue(b)),
+                             std::abs(GetBValue(a) - GetBValue(b))}) > tolerance;
+        };
+        return countIf(differ, other);
+    }
+
+private:
+    template <class Test>
+    int countIf(Test test, const PictureOfWindow& other) const {
         int found = 0;
-        for (int y = 0; y < height_; ++y) {
-            for (int x = 0; x < width_; ++x) {
-                const COLORREF a = at(x, y);
-                const COLORREF b = other.at(x, y);
-                found += std::abs(GetRValue(a) - GetRValue(b)) > tolerance ||
-                         std::abs(GetGValue(a) - GetGValue(b)) > tolerance ||
-                         std::abs(GetBValue(a) - GetBValue(b)) > tolerance;
-            }
+        for (int i = 0; i < width_ * height_; ++i) {
+            found += test(at(i % width_, i / width_), other.at(i % width_, i / width_));
         }
         return found;
     }
 
-private:
     int width_;
     int height_;
     HBITMAP bitmap_;

@@ -1,56 +1,63 @@
-// The tree's control over a parent that counts what it is told.
+// The tree's control: what it selects and tells, and what it draws over a picture,
+// compared with what the platform's tree view draws by itself on a plain
+// background of the same colour.
+#include "platform/win32/PictureLoader.h"
 #include "platform/win32/TreeListCtrl.h"
-#include "platform/win32/Win32Dialog.h"
+#include "tests/cli/TestFolder.h"
+#include "tests/skin/BitmapBytes.h"
+#include "tests/win32/ParentWindow.h"
+#include "tests/win32/PictureOfWindow.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <functional>
 #include <string>
+#include <vector>
+
+#include <ole2.h>
 
 namespace korvane {
 namespace {
+
+constexpr int kWidth = 240;
+constexpr int kHeight = 180;
+constexpr COLORREF kPale = RGB(236, 214, 250);
+constexpr char kPicture[] = "data/Skin/BG.jpg";
+
+HBITMAP plainBitmap(int width, int height, COLORREF colour) {
+    const COLORREF inBitmap = RGB(GetBValue(colour), GetGValue(colour), GetRValue(colour));
+    const std::vector<COLORREF> pixels(static_cast<std::size_t>(width * height), inBitmap);
+    return CreateBitmap(width, height, 1, 32, pixels.data());
+}
 
 class TreeListCtrlTest : public ::testing::Test {
 protected:
     TreeListCtrlTest() {
         const HINSTANCE instance = GetModuleHandleA(nullptr);
         registerTreeListClass(instance);
-        WNDCLASSA windowClass{};
-        windowClass.lpfnWndProc = parentProc;
-        windowClass.hInstance = instance;
-        windowClass.lpszClassName = "Korvane.TreeListCtrlTest";
-        RegisterClassA(&windowClass);
-        parent = CreateWindowExA(0, windowClass.lpszClassName, "", WS_POPUP | WS_VISIBLE, 20, 20, 400, 400, nullptr,
+        window = CreateWindowExA(0, kTreeListClass, "", WS_CHILD | WS_VISIBLE, 0, 0, kWidth, kHeight, parent.window(),
                                  nullptr, instance, nullptr);
-        SetWindowLongPtrA(parent, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-        other = CreateWindowExA(0, "Edit", "", WS_CHILD | WS_VISIBLE, 350, 0, 50, 20, parent, nullptr, instance,
-                                nullptr);
-        SetFocus(other);
-        window = CreateWindowExA(WS_EX_CLIENTEDGE, kTreeListClass, "Trellis", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0,
-                                 300, 350, parent, nullptr, instance, nullptr);
-        treeView = FindWindowExA(window, nullptr, WC_TREEVIEWA, nullptr);
-        header = FindWindowExA(window, nullptr, WC_HEADERA, nullptr);
+        tree = FindWindowExA(window, nullptr, WC_TREEVIEWA, nullptr);
         control = std::make_unique<Win32TreeListCtrl>(window);
-        build();
     }
-    ~TreeListCtrlTest() override { DestroyWindow(parent); }
 
-    static LRESULT CALLBACK parentProc(HWND parentWindow, UINT message, WPARAM wParam, LPARAM lParam) {
-        auto* self = reinterpret_cast<TreeListCtrlTest*>(GetWindowLongPtrA(parentWindow, GWLP_USERDATA));
-        if (message == kTreeSelectionChanged && self != nullptr) {
-            ++self->told;
-        }
-        return DefWindowProcA(parentWindow, message, wParam, lParam);
-    }
+    int told = 0;
+    ParentWindow parent{[this](UINT message, LPARAM) { told += message == kTreeSelectionChanged; }};
+    HWND window = nullptr;
+    HWND tree = nullptr;
+    std::unique_ptr<Win32TreeListCtrl> control;
+};
+
+// ---- Selecting
+
+class TreeSelectionTest : public TreeListCtrlTest {
+protected:
+    TreeSelectionTest() { build(); }
 
     void build() {
-        control->SetStyle(0x306700E3);
-        control->InsertColumn(" ", 0x504144, 0, -1, 0, 0);
-        control->SetColumnModify(0, 1);
-        control->SetColumnWidth(0, 500, 0, 0);
         control->DeleteAllItems();
-        accessories = insert("Accessories", kRootItem, 0);
-        processor = insert("Command Processor", accessories, 1);
-        insert("Quick Edit", processor, 11);
+        insert("Command Processor", insert("Accessories", kRootItem, 0), 1);
         insert("Desktop", kRootItem, 78);
     }
 
@@ -71,36 +78,26 @@ protected:
         }
         return static_cast<int>(data);
     }
-
-    HWND parent = nullptr;
-    HWND other = nullptr;
-    HWND window = nullptr;
-    HWND treeView = nullptr;
-    HWND header = nullptr;
-    std::unique_ptr<Win32TreeListCtrl> control;
-    CTreeListItem accessories = 0;
-    CTreeListItem processor = 0;
-    int told = 0;
 };
 
-TEST_F(TreeListCtrlTest, StaysUnselectedUntilTheUserSelects) {
+TEST_F(TreeSelectionTest, StaysUnselectedUntilTheUserSelects) {
     EXPECT_EQ(selected(), -1);
     SetFocus(window);
-    EXPECT_EQ(GetFocus(), treeView);
+    EXPECT_EQ(GetFocus(), tree);
     EXPECT_EQ(selected(), -1);
     EXPECT_EQ(told, 0);
-    SendMessageA(treeView, WM_CHAR, 'd', 1);  // finds by name, and tells
+    SendMessageA(tree, WM_CHAR, 'd', 1);  // finds by name, and tells
     EXPECT_EQ(selected(), 78);
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(TreeListCtrlTest, TheFirstMovingKeySelectsTheFirstRow) {
+TEST_F(TreeSelectionTest, TheFirstMovingKeySelectsTheFirstRow) {
     for (const WPARAM code : {VK_DOWN, VK_UP, VK_RIGHT, VK_LEFT, VK_HOME, VK_END}) {
         SCOPED_TRACE(code);
         told = 0;
         SendMessageA(window, TVM_SELECTITEM, TVGN_CARET, 0);
         ASSERT_EQ(selected(), -1);
-        SetFocus(other);
+        SetFocus(parent.field());
         SetFocus(window);
         told = 0;
         key(code);
@@ -108,119 +105,173 @@ TEST_F(TreeListCtrlTest, TheFirstMovingKeySelectsTheFirstRow) {
         EXPECT_EQ(told, 1);
     }
     key(VK_END);
-    EXPECT_EQ(selected(), 78);
-    key(VK_HOME);
-    key(VK_RIGHT);
-    key(VK_RIGHT);
-    EXPECT_EQ(selected(), 1);
-    EXPECT_EQ(told, 4);
-}
-
-TEST_F(TreeListCtrlTest, FocusKeepsWhatIsSelected) {
-    SetFocus(window);
-    key(VK_DOWN);
-    key(VK_END);
-    SetFocus(other);
-    told = 0;
+    // Focus keeps what is selected; building again tells nothing and selects nothing.
+    SetFocus(parent.field());
     SetFocus(window);
     EXPECT_EQ(selected(), 78);
-    EXPECT_EQ(told, 0);
-}
-
-TEST_F(TreeListCtrlTest, BuildingAgainTellsNothingAndSelectsNothing) {
-    SetFocus(window);
-    key(VK_DOWN);
-    ASSERT_EQ(told, 1);
+    EXPECT_EQ(told, 2);
     build();
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(told, 2);
     EXPECT_EQ(selected(), -1);
-    EXPECT_EQ(SendMessageA(window, TVM_GETCOUNT, 0, 0), 4);
 }
 
-TEST_F(TreeListCtrlTest, CanBeUsedAsIfItWereTheTreeView) {
-    EXPECT_EQ(SendMessageA(window, TVM_GETCOUNT, 0, 0), 4);
-    const LRESULT second =
-        SendMessageA(window, TVM_GETNEXTITEM, TVGN_NEXT, SendMessageA(window, TVM_GETNEXTITEM, TVGN_ROOT, 0));
-    SendMessageA(window, TVM_SELECTITEM, TVGN_CARET, second);
-    EXPECT_EQ(selected(), 78);
-    EXPECT_EQ(told, 1);
-    SendMessageA(window, WM_KEYDOWN, VK_HOME, 0);
-    EXPECT_EQ(selected(), 0);
-    SendMessageA(window, WM_KEYDOWN, VK_MULTIPLY, 0);  // everything below opens
-    TVITEMA row{};
-    row.mask = TVIF_HANDLE | TVIF_STATE;
-    row.stateMask = TVIS_EXPANDED;
-    row.hItem = reinterpret_cast<HTREEITEM>(processor);
-    SendMessageA(window, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&row));
-    EXPECT_TRUE(row.state & TVIS_EXPANDED);
-}
+// ---- The picture
 
-TEST_F(TreeListCtrlTest, RowsKeepTextStateAndImages) {
-    const HIMAGELIST images = ImageList_Create(16, 16, ILC_COLOR24 | ILC_MASK, 1, 1);
-    control->offerImageList(images);
-    EXPECT_EQ(SendMessageA(window, TVM_GETIMAGELIST, TVSIL_NORMAL, 0), 0);
-    control->SetImageList();
-    EXPECT_EQ(SendMessageA(window, TVM_GETIMAGELIST, TVSIL_NORMAL, 0), reinterpret_cast<LRESULT>(images));
-    control->SetItemBold(processor, true);
-    control->SetItemImage(processor, 7, 8, 9, 10);
-    control->SetItemBold(accessories, true);
-    control->SetItemBold(accessories, false);
+class TreeBackgroundTest : public TreeListCtrlTest {
+protected:
+    TreeBackgroundTest() {
+        OleInitialize(nullptr);
+        fill();
+    }
+    ~TreeBackgroundTest() override {
+        setPicture(nullptr);
+        DeleteObject(bitmap);
+        SendMessageA(tree, TVM_SETIMAGELIST, TVSIL_NORMAL, 0);
+        ImageList_Destroy(images);
+        OleUninitialize();
+    }
 
-    char text[50] = "";
-    TVITEMA row{};
-    row.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-    row.stateMask = TVIS_BOLD;
-    row.hItem = reinterpret_cast<HTREEITEM>(processor);
-    row.pszText = text;
-    row.cchTextMax = sizeof text;
-    SendMessageA(window, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&row));
-    EXPECT_STREQ(text, "Command Processor");
-    EXPECT_TRUE(row.state & TVIS_BOLD);
-    EXPECT_EQ(row.iImage, 7);
-    EXPECT_EQ(row.iSelectedImage, 8);
-    row.hItem = reinterpret_cast<HTREEITEM>(accessories);
-    SendMessageA(window, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&row));
-    EXPECT_FALSE(row.state & TVIS_BOLD);
-    SendMessageA(window, TVM_SETIMAGELIST, TVSIL_NORMAL, 0);
-    ImageList_Destroy(images);
-}
+    // Twelve rows with four below each; every third is bold.
+    void fill() {
+        images = ImageList_Create(16, 16, ILC_COLOR24 | ILC_MASK, 1, 1);
+        const HBITMAP image = plainBitmap(16, 16, RGB(40, 90, 160));
+        ImageList_AddMasked(images, image, RGB(255, 0, 0));
+        DeleteObject(image);
+        control->offerImageList(images);
+        control->SetImageList();
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            rows[i] = control->InsertItem("Row number " + std::to_string(i), kRootItem, kInsertLast);
+            control->SetItemBold(rows[i], i % 3 == 0);
+            for (int k = 0; k < 4; ++k) {
+                control->InsertItem("Below it and wider than the window, so that it scrolls", rows[i], kInsertLast);
+            }
+        }
+    }
 
-TEST_F(TreeListCtrlTest, HasOneColumnWhoseHeadingScrollsWithTheRows) {
-    ASSERT_EQ(SendMessageA(header, HDM_GETITEMCOUNT, 0, 0), 1);
-    HDITEMA column{};
-    column.mask = HDI_WIDTH;
-    SendMessageA(header, HDM_GETITEMA, 0, reinterpret_cast<LPARAM>(&column));
-    EXPECT_EQ(column.cxy, 500);
-    EXPECT_EQ(rectInParent(header).bottom, rectInParent(treeView).top);
+    LPARAM row(std::size_t index) const { return static_cast<LPARAM>(rows[index]); }
+    void select(std::size_t index) const { SendMessageA(tree, TVM_SELECTITEM, TVGN_CARET, row(index)); }
+    void expand(std::size_t index) const { SendMessageA(tree, TVM_EXPAND, TVE_EXPAND, row(index)); }
+    SIZE client() const { return PictureOfWindow::clientSize(tree); }
+    void setPicture(HBITMAP picture) const {
+        SendMessageA(window, kTreeSetPicture, reinterpret_cast<WPARAM>(picture), 0);
+    }
+    void setPlainPicture(int width, int height) {
+        bitmap = plainBitmap(width, height, kPale);
+        setPicture(bitmap);
+    }
+    void expectAllStale() const {
+        RECT stale{};
+        GetUpdateRect(tree, &stale, FALSE);
+        EXPECT_TRUE(stale.left == 0 && stale.top == 0 && stale.right == client().cx && stale.bottom == client().cy);
+    }
 
-    insert(std::string(90, 'm'), kRootItem, 5);  // wider than the window
-    UpdateWindow(treeView);
-    EXPECT_EQ(rectInParent(header).left, 0);
-    SendMessageA(treeView, WM_HSCROLL, SB_PAGERIGHT, 0);
-    UpdateWindow(treeView);
-    SCROLLINFO scroll{};
-    scroll.cbSize = sizeof scroll;
-    scroll.fMask = SIF_POS;
-    GetScrollInfo(treeView, SB_HORZ, &scroll);
-    ASSERT_GT(scroll.nPos, 0);
-    EXPECT_EQ(rectInParent(header).left, -scroll.nPos);
-    // The user cannot drag the column's edge.
-    NMHEADERA drag{};
-    drag.hdr = {header, 0, HDN_BEGINTRACKA};
-    EXPECT_TRUE(SendMessageA(window, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&drag)));
-}
+    // Differences between the tree over a picture of one colour, and the platform's drawing on that colour.
+    int differences(COLORREF colour, int tolerance) const {
+        const SIZE size = client();
+        setPicture(nullptr);
+        SendMessageA(tree, TVM_SETBKCOLOR, 0, static_cast<LPARAM>(colour));
+        PictureOfWindow expected(size.cx, size.cy, colour);
+        expected.print(tree);
+        SendMessageA(tree, TVM_SETBKCOLOR, 0, -1);
+        const HBITMAP plain = plainBitmap(size.cx, size.cy, colour);
+        setPicture(plain);
+        const PictureOfWindow drawn(tree);
+        setPicture(nullptr);
+        DeleteObject(plain);
+        EXPECT_GT(drawn.count(colour), size.cx * size.cy / 4);
+        return drawn.differencesFrom(expected, tolerance);
+    }
 
-TEST_F(TreeListCtrlTest, PassesSizeFontAndStateOn) {
-    const auto font = reinterpret_cast<WPARAM>(GetStockObject(ANSI_FIXED_FONT));
-    SendMessageA(window, WM_SETFONT, font, FALSE);
-    EXPECT_EQ(static_cast<WPARAM>(SendMessageA(treeView, WM_GETFONT, 0, 0)), font);
-    EXPECT_EQ(static_cast<WPARAM>(SendMessageA(header, WM_GETFONT, 0, 0)), font);
-    MoveWindow(window, 0, 0, 204, 104, FALSE);  // with a border of 2 pixels
-    EXPECT_EQ(rectInParent(treeView).right, 200);
-    EXPECT_EQ(rectInParent(treeView).bottom, 100);
-    EXPECT_GE(rectInParent(header).right, 200);
+    HIMAGELIST images = nullptr;
+    HBITMAP bitmap = nullptr;
+    std::array<CTreeListItem, 12> rows{};
+};
+
+TEST_F(TreeBackgroundTest, RowsLookAsTheyDoOnAPlainBackground) {
+    const auto compare = [&](const char* state) {
+        SCOPED_TRACE(state);
+        EXPECT_EQ(differences(GetSysColor(COLOR_WINDOW), 0), 0);
+        EXPECT_EQ(differences(kPale, 1), 0);
+    };
+    expand(1);
+    compare("open");
+    select(1);
+    SetFocus(tree);
+    compare("selected, with the focus");
+    SendMessageA(tree, WM_HSCROLL, SB_PAGERIGHT, 0);
+    SendMessageA(tree, WM_VSCROLL, SB_LINEDOWN, 0);
+    compare("scrolled");
     EnableWindow(window, FALSE);
-    EXPECT_FALSE(IsWindowEnabled(treeView));
+    compare("disabled");
+}
+
+TEST_F(TreeBackgroundTest, ThePictureLiesAtTheLowerRightCornerAndTakesTheWindowsColour) {
+    setPlainPicture(30, 20);
+    const auto look = [&](COLORREF inside, COLORREF outside) {
+        const SIZE size = client();
+        const PictureOfWindow drawn(tree);
+        EXPECT_EQ(drawn.at(size.cx - 1, size.cy - 1), inside);
+        EXPECT_EQ(drawn.at(size.cx - 30, size.cy - 20), inside);
+        EXPECT_EQ(drawn.at(size.cx - 31, size.cy - 1), outside);
+        EXPECT_EQ(drawn.at(size.cx - 1, size.cy - 21), outside);
+    };
+    look(kPale, RGB(255, 255, 255));
+    EXPECT_EQ(static_cast<COLORREF>(SendMessageA(tree, TVM_GETBKCOLOR, 0, 0)), CLR_NONE);  // the system's, as before
+    UpdateWindow(tree);
+    MoveWindow(window, 0, 0, 200, 120, FALSE);
+    expectAllStale();
+    look(kPale, RGB(255, 255, 255));
+    // Behind light text on a dark window, a light picture would make it unreadable.
+    SendMessageA(tree, TVM_SETBKCOLOR, 0, RGB(100, 150, 200));
+    look(RGB(236 * 100 / 255, 214 * 150 / 255, 250 * 200 / 255), RGB(100, 150, 200));
+}
+
+// A row that moves must not take the picture along: the whole tree is painted anew, and nothing else.
+TEST_F(TreeBackgroundTest, WhateverMovesRowsHasTheWholeTreePaintedAnew) {
+    setPlainPicture(50, 50);
+    expand(0);
+    SetFocus(tree);
+    const std::function<void()> steps[] = {
+        [&] { SendMessageA(tree, WM_VSCROLL, SB_LINEDOWN, 0); },
+        [&] { SendMessageA(tree, WM_HSCROLL, SB_LINERIGHT, 0); },
+        [&] { select(9); },
+        [&] { SendMessageA(tree, TVM_ENSUREVISIBLE, 0, row(0)); },
+        [&] { expand(3); },
+    };
+    for (std::size_t i = 0; i < std::size(steps); ++i) {
+        SCOPED_TRACE(i);
+        UpdateWindow(tree);
+        ASSERT_FALSE(GetUpdateRect(tree, nullptr, FALSE));
+        steps[i]();
+        expectAllStale();
+        EXPECT_TRUE(IsWindowVisible(tree));
+    }
+}
+
+TEST_F(TreeBackgroundTest, WhatIsNoPictureLeavesTheBackgroundPlain) {
+    const TestFolder folder;
+    // The width of the picture that the tree has been given from the file; 0 when its background has stayed plain.
+    const auto loadedWidth = [&](const std::string& path) {
+        int width = -1;
+        int height = -1;
+        control->GetBGImage().load(path, width, height);
+        const PictureOfWindow drawn(tree);
+        setPicture(nullptr);
+        EXPECT_EQ(width == 0, drawn.differencesFrom(PictureOfWindow(tree), 0) == 0) << path;
+        return width;
+    };
+    EXPECT_EQ(loadedWidth(kPicture), 320);
+    EXPECT_EQ(loadedWidth(folder.file("none.jpg")), 0);  // and the one before it is gone
+    const std::string whole = readFile(kPicture);
+    const std::string contents[] = {"", whole.substr(0, 160), std::string(3000, 'x'),
+                                    readFile("res/korvane.ico"),  // a picture, but no bitmap
+                                    whole + std::string(kLargestPictureFile, '\0')};
+    for (const std::string& content : contents) {
+        writeFile(folder.file("bad.jpg"), content);
+        EXPECT_EQ(loadedWidth(folder.file("bad.jpg")), 0) << content.size();
+    }
+    writeFile(folder.file("bitmap.jpg"), greyBitmap(70, 30));
+    EXPECT_EQ(loadedWidth(folder.file("bitmap.jpg")), 70);
 }
 
 }  // namespace

@@ -62,11 +62,6 @@ public:
         return text;
     }
 
-    int columnCount(int templateId, int id) const {
-        const auto header = reinterpret_cast<HWND>(SendMessageA(control(templateId, id), LVM_GETHEADER, 0, 0));
-        return static_cast<int>(SendMessageA(header, HDM_GETITEMCOUNT, 0, 0));
-    }
-
     void selectRow(int templateId, int id, int row) const {
         LVITEMA item{};
         item.stateMask = item.state = LVIS_SELECTED | LVIS_FOCUSED;

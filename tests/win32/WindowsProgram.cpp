@@ -2,6 +2,7 @@
 // would.
 #include "tests/win32/WindowsProgram.h"
 
+#include "pages/PageTemplates.h"
 #include "res/ControlIds.h"
 
 namespace korvane {
@@ -36,7 +37,88 @@ void setRowState(HWND list, int row, UINT mask, UINT state) {
     SendMessageA(list, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
 }
 
+void empty(Win32Dialog& page, const ControlTemplate& control) {
+    switch (control.kind) {
+        case ControlKind::CheckBox: page.setCheck(control.id, 0); break;
+        case ControlKind::Combo:
+        case ControlKind::ColourCombo: page.resetCombo(control.id); break;
+        case ControlKind::List:
+        case ControlKind::CheckedList:
+            page.deleteRows(control.id);
+            while (SendDlgItemMessageA(page.window(), control.id, LVM_DELETECOLUMN, 0, 0)) {
+            }
+            break;
+        default: break;
+    }
+}
+
+void putBack(Win32Dialog& page, const DialogTemplate& asMade) {
+    page.show(false);
+    for (const ControlTemplate& control : asMade.controls) {
+        empty(page, control);
+        page.setText(control.id, control.text);
+        page.enableControl(control.id, true);
+        page.showControl(control.id, control.visible);
+    }
+}
+
 }  // namespace
+
+// ---- The window: lending it, and putting its controls back
+
+SharedMainWindow& SharedMainWindow::instance() {
+    static SharedMainWindow window;
+    return window;
+}
+
+SharedMainWindow::~SharedMainWindow() {
+    if (made_) {
+        DestroyWindow(window());
+    }
+}
+
+void SharedMainWindow::lendTo(MainWindowHandler& borrower) {
+    borrower_ = &borrower;
+    // As when the program starts, the window is filled before it is shown: otherwise each row of the tree is painted.
+    if (made_) {
+        ShowWindow(window(), SW_HIDE);
+        makeAsNew();
+        borrower.OnInitDialog();
+    } else {
+        window_.create(*this);
+        made_ = true;
+    }
+    ShowWindow(window(), SW_SHOWMINNOACTIVE);
+}
+
+void SharedMainWindow::makeAsNew() {
+    tree().DeleteAllItems();
+    SendDlgItemMessageA(window(), IDC_TREE, HDM_DELETEITEM, 0, 0);
+    controls().showControl(IDC_APPLY, false);
+    for (const auto& [id, page] : pages_) {
+        putBack(*page, *findDialogTemplate(id));
+    }
+}
+
+bool SharedMainWindow::Relay::OnInitDialog(DialogControls& made) {
+    controls = &made;
+    return handler->OnInitDialog(made);
+}
+
+void SharedMainWindow::createPage(int templateId, DialogHandler& handler) {
+    Relay& relay = relays_[templateId];
+    relay.handler = &handler;
+    if (made_) {
+        handler.OnInitDialog(*relay.controls);
+        return;
+    }
+    window_.createPage(templateId, relay);
+    if (relay.controls != nullptr) {
+        pages_.emplace(templateId, static_cast<Win32Dialog*>(relay.controls));
+    }
+}
+
+// ---- The program
 
 WindowsProgram::WindowsProgram(const Situation& situation) {
     system_.version.record = versionNamed(situation.windows).value();
@@ -48,7 +130,6 @@ WindowsProgram::WindowsProgram(const Situation& situation) {
     main_.emplace(*app_, window_);
     window_.lendTo(*main_);
     handleMessages(window_.window());
-    findRows();
 }
 
 WindowsProgram::~WindowsProgram() {
@@ -72,25 +153,6 @@ LRESULT WindowsProgram::sendTree(UINT message, WPARAM wParam, LPARAM lParam) con
     return SendMessageA(GetDlgItem(window_.window(), IDC_TREE), message, wParam, lParam);
 }
 
-void WindowsProgram::findRows() {
-    LRESULT row = sendTree(TVM_GETNEXTITEM, TVGN_ROOT, 0);
-    while (row != 0) {
-        TVITEMA item{};
-        item.mask = TVIF_PARAM;
-        item.hItem = reinterpret_cast<HTREEITEM>(row);
-        sendTree(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
-        rows_.emplace(static_cast<int>(item.lParam), row);
-        // The first below it, or else the next beside it or beside what it is below.
-        LRESULT next = sendTree(TVM_GETNEXTITEM, TVGN_CHILD, row);
-        while (next == 0 && row != 0) {
-            next = sendTree(TVM_GETNEXTITEM, TVGN_NEXT, row);
-            row = sendTree(TVM_GETNEXTITEM, TVGN_PARENT, row);
-        }
-        row = next;
-    }
-    EXPECT_FALSE(rows_.empty());
-}
-
 void WindowsProgram::setRowData(LRESULT row, LPARAM data) const {
     TVITEMA item{};
     item.mask = TVIF_PARAM;
@@ -99,27 +161,27 @@ void WindowsProgram::setRowData(LRESULT row, LPARAM data) const {
     sendTree(TVM_SETITEMA, 0, reinterpret_cast<LPARAM>(&item));
 }
 
-// The tree is silent about a row that is selected already, so nothing is selected in between. What has no row is shown
-// by another's, which bears its number meanwhile.
+// Every item is shown by the first row, which bears its number meanwhile. The tree is silent about a row that is
+// selected already, so nothing is selected in between.
 void WindowsProgram::select(int id) {
-    const auto own = rows_.find(id);
-    const auto [number, row] = own != rows_.end() ? *own : *rows_.begin();
+    const LRESULT row = sendTree(TVM_GETNEXTITEM, TVGN_ROOT, 0);
     setRowData(row, id);
     sendTree(TVM_SELECTITEM, TVGN_CARET, 0);
     sendTree(TVM_SELECTITEM, TVGN_CARET, row);
-    setRowData(row, number);
+    setRowData(row, 0);
     handleMessages(window_.window());
 }
 
-bool WindowsProgram::apply() {
-    const HWND button = GetDlgItem(window_.window(), IDC_APPLY);
-    if (!IsWindowVisible(button) || !IsWindowEnabled(button)) {
+bool WindowsProgram::press(HWND button) {
+    if (!isClass(button, "Button") || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
         return false;
     }
     SendMessageA(button, BM_CLICK, 0, 0);
     handleMessages(window_.window());
     return true;
 }
+
+bool WindowsProgram::apply() { return press(GetDlgItem(window_.window(), IDC_APPLY)); }
 
 // ---- The pages
 
@@ -152,21 +214,12 @@ HWND WindowsProgram::usable(int control) {
 }
 
 HWND WindowsProgram::usableList(int list, int row) {
-    const HWND control = usable(list);
-    const bool found = control != nullptr && isClass(control, WC_LISTVIEWA) && row >= 0 &&
-                       row < SendMessageA(control, LVM_GETITEMCOUNT, 0, 0);
-    return found ? control : nullptr;
+    const HWND found = usable(list);
+    const LRESULT rows = isClass(found, WC_LISTVIEWA) ? SendMessageA(found, LVM_GETITEMCOUNT, 0, 0) : 0;
+    return row >= 0 && row < rows ? found : nullptr;
 }
 
-bool WindowsProgram::click(int control) {
-    const HWND button = usable(control);
-    if (button == nullptr || !isClass(button, "Button")) {
-        return false;
-    }
-    SendMessageA(button, BM_CLICK, 0, 0);
-    handleMessages(window_.window());
-    return true;
-}
+bool WindowsProgram::click(int control) { return press(usable(control)); }
 
 // Everything that is there is selected and deleted, then key after key comes.
 bool WindowsProgram::type(int control, std::string_view text) {
@@ -214,8 +267,7 @@ bool WindowsProgram::clickRow(int list, int row) {
     constexpr UINT kEmptyBox = 1;
     constexpr UINT kTickedBox = 2;
     const HWND window = usableList(list, row);
-    if (window == nullptr ||
-        !(SendMessageA(window, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_CHECKBOXES)) {
+    if (!(SendMessageA(window, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_CHECKBOXES)) {
         return false;
     }
     const LRESULT state =
