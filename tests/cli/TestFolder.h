@@ -1,6 +1,8 @@
 // A folder of its own for each test, removed afterwards with all that is in it.
 #pragma once
 
+#include "platform/memory/StdioFiles.h"
+
 #include <gtest/gtest.h>
 
 #include <dirent.h>
@@ -35,17 +37,8 @@ inline void writeFile(const std::string& path, std::string_view bytes) {
 }
 
 inline std::string readFile(const std::string& path) {
-    std::FILE* file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) {
-        return "(no file " + path + ")";
-    }
     std::string bytes;
-    char block[4096];
-    for (std::size_t got = 0; (got = std::fread(block, 1, sizeof block, file)) > 0;) {
-        bytes.append(block, got);
-    }
-    std::fclose(file);
-    return bytes;
+    return readWholeFile(path, 1 << 26, bytes) ? bytes : "(no file " + path + ")";
 }
 
 inline std::vector<std::string> filesIn(const std::string& folder) {

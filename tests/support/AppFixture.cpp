@@ -200,31 +200,6 @@ MemoryDialog* MemoryProgram::shown() {
     return pages.empty() ? nullptr : window.page(pages.front());
 }
 
-bool MemoryProgram::click(int control) {
-    MemoryDialog* page = shown();
-    return page != nullptr && (page->clickCheckBox(control) || page->clickButton(control));
-}
-
-bool MemoryProgram::type(int control, std::string_view text) {
-    MemoryDialog* page = shown();
-    return page != nullptr && page->typeText(control, text);
-}
-
-bool MemoryProgram::pick(int combo, int entry) {
-    MemoryDialog* page = shown();
-    return page != nullptr && page->pickComboEntry(combo, entry);
-}
-
-bool MemoryProgram::selectRow(int list, int row) {
-    MemoryDialog* page = shown();
-    return page != nullptr && page->selectListRow(list, row);
-}
-
-bool MemoryProgram::clickRow(int list, int row) {
-    MemoryDialog* page = shown();
-    return page != nullptr && page->clickRowCheck(list, row);
-}
-
 std::unique_ptr<Program> startInMemory(const Situation& situation) {
     auto program = std::make_unique<MemoryProgram>(situation.registry, situation.windows);
     EXPECT_TRUE(program->start());

@@ -133,11 +133,13 @@ struct MemoryProgram final : Program {
     DialogControls& page(int templateId) override { return *window.page(templateId); }
     bool shows(int templateId, int control) override;
     bool enabled(int templateId, int control) override;
-    bool click(int control) override;
-    bool type(int control, std::string_view text) override;
-    bool pick(int combo, int entry) override;
-    bool selectRow(int list, int row) override;
-    bool clickRow(int list, int row) override;
+    bool click(int control) override {
+        return shown() != nullptr && (shown()->clickCheckBox(control) || shown()->clickButton(control));
+    }
+    bool type(int control, std::string_view text) override { return shown() && shown()->typeText(control, text); }
+    bool pick(int combo, int entry) override { return shown() && shown()->pickComboEntry(combo, entry); }
+    bool selectRow(int list, int row) override { return shown() && shown()->selectListRow(list, row); }
+    bool clickRow(int list, int row) override { return shown() && shown()->clickRowCheck(list, row); }
 
     MemoryRegistry registry;
     MemorySystem system;
