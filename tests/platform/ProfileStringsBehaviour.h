@@ -38,6 +38,8 @@ TYPED_TEST_P(ProfileStringsBehaviour, SectionsAndKeysAreFoundWithoutRegardToCase
 
 TYPED_TEST_P(ProfileStringsBehaviour, EveryKindOfLineEndEndsALine) {
     EXPECT_EQ(this->value("[s]\nj=1\nk=2\n"), "2");
+    EXPECT_EQ(this->value("[s]\rj=1\rk=2\r"), "2");
+    EXPECT_EQ(this->value("[s]\r\r\n\n\nk=2"), "2");
 }
 
 TYPED_TEST_P(ProfileStringsBehaviour, TheFirstSectionAndTheFirstKeyOfANameCount) {
@@ -62,11 +64,17 @@ TYPED_TEST_P(ProfileStringsBehaviour, AValueRunsFromTheFirstEqualsSignToTheEndOf
 }
 
 TYPED_TEST_P(ProfileStringsBehaviour, OnePairOfQuotationMarksAroundAValueIsRemoved) {
+    EXPECT_EQ(this->value("[s]\nk=\"  a b  \""), "  a b  ");
+    EXPECT_EQ(this->value("[s]\nk='a'"), "a");
+    EXPECT_EQ(this->value("[s]\nk=\"\"a\"\""), "\"a\"");
+    EXPECT_EQ(this->value("[s]\nk=\"a'"), "\"a'");
     EXPECT_EQ(this->value("[s]\n\"k\"=v"), "default");
 }
 
 TYPED_TEST_P(ProfileStringsBehaviour, AnAnswerIsCutToTheBuffer) {
     const std::string_view file = "[s]\nk=abc  def\nq=\"abcdef\"";
+    EXPECT_EQ(this->lookUp(file, "s", "k", "", 8), "abc  de");
+    EXPECT_EQ(this->lookUp(file, "s", "q", "", 4), "abc");
     EXPECT_EQ(this->lookUp(file, "s", "k", "", 0), "");
 
     const std::string longValue(66000, 'x');
