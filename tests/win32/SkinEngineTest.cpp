@@ -245,5 +245,26 @@ TEST_F(SkinnedFrameTest, TellsTheNamesOfButtonsThatAreReleasedWhereTheyWerePress
     EXPECT_EQ(pressed.size(), 1u);
 }
 
+// ---- Its properties
+
+TEST(SkinEngineResource, HoldsWellFormedProperties) {
+    const HRSRC resource = FindResourceA(nullptr, MAKEINTRESOURCEA(IDD_MAIN), MAKEINTRESOURCEA(240));
+    ASSERT_NE(resource, nullptr);
+    const auto* bytes = static_cast<const std::byte*>(LockResource(LoadResource(nullptr, resource)));
+    const std::span<const std::byte> all(bytes, SizeofResource(nullptr, resource));
+    std::vector<std::byte> data;
+    for (const std::byte byte : controlData(all, IDC_SKIN)) {
+        data.push_back(byte);
+    }
+    EXPECT_EQ(readSkinProperties(data), SkinProperties{});
+    // Malformed data would give the same defaults; a changed hue is read only from data that is well formed.
+    const std::string name("m\0_\0n\0H\0u\0e\0\0\0", 14);
+    const auto* text = reinterpret_cast<const char*>(data.data());
+    const std::size_t hue = std::string(text, data.size()).find(name);
+    ASSERT_NE(hue, std::string::npos);
+    data[hue + name.size() + 8] = std::byte{77};
+    EXPECT_EQ(readSkinProperties(data).hue, 77);
+}
+
 }  // namespace
 }  // namespace korvane
