@@ -11,6 +11,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -29,52 +31,48 @@ public:
     // Those that were given out and not closed.
     std::size_t openHandles() const { return handles_.size(); }
 
-    // What the keys hold now, in the form of dumpRegistry.
+    // What the keys hold now, in the form of dumpRegistry. To read hundreds of keys takes long, so only those are read
+    // that a verb was told to change; whether nothing else has changed is looked at in the end.
     std::string text();
 
     Status connect(Root root, RegistryHandle& handle) override;
     Status openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) override;
+    Status openKeyForReading(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) override;
     Status createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) override;
     Status queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer, std::size_t& size,
-                      ValueType* type = nullptr) override {
-        return registry_.queryValue(live(key), name, buffer, size, type);
-    }
+                      ValueType* type = nullptr) override;
     Status setValue(const RegistryHandle& key, std::string_view name, ValueType type,
-                    std::span<const std::byte> data) override {
-        return registry_.setValue(changing(key), name, type, data);
-    }
-    Status deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) override {
-        return registry_.deleteValue(changing(key), subkey, name);
-    }
-    Status deleteKey(const RegistryHandle& parent, std::string_view path) override {
-        return registry_.deleteKey(changing(parent), path);
-    }
-    Status deleteTree(const RegistryHandle& parent, std::string_view path) override {
-        return registry_.deleteTree(changing(parent), path);
-    }
-    Status enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) override {
-        return registry_.enumerateKey(live(key), index, name);
-    }
-    Status enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) override {
-        return registry_.enumerateValue(live(key), index, name);
-    }
+                    std::span<const std::byte> data) override;
+    Status deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) override;
+    Status deleteKey(const RegistryHandle& parent, std::string_view path) override;
+    Status deleteTree(const RegistryHandle& parent, std::string_view path) override;
+    Status enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) override;
+    Status enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) override;
 
 private:
+    using Place = std::pair<Root, std::string>;  // a key by its path below a root
+    struct OpenKey {
+        RegistryHandle live;
+        Place place;
+    };
+
     const RegistryHandle& live(const RegistryHandle& handle) const;
-    const RegistryHandle& changing(const RegistryHandle& handle) {
-        changed_ = true;
-        return live(handle);
-    }
-    Status giveOut(Status status, RegistryHandle opened, RegistryHandle& key);
+    void note(Place change);
+    Place placeOf(const RegistryHandle& handle, std::string_view path) const;
+    RegistryHandle giveOut(RegistryHandle live, Place place);
     void closeKey(std::uintptr_t handle) noexcept override { handles_.erase(handle); }
+
+    RegistryHandle liveRoot(Root root);
+    void readAgain(const Place& place);
+    void compareWithEverything();
     void wipe();
 
     Win32Registry registry_;
-    std::map<std::uintptr_t, RegistryHandle> handles_;
+    std::map<std::uintptr_t, OpenKey> handles_;
     std::uintptr_t lastHandle_ = 0;
     std::set<Root> denied_;
-    std::string text_;
-    bool changed_ = true;  // since the text was read
+    MemoryRegistry known_;        // what was read last
+    std::vector<Place> changed_;  // since then, in the order of the changes: a new key keeps its first spelling
 };
 
 }  // namespace korvane
