@@ -83,28 +83,5 @@ TEST(Program, ShowsOnePageForEveryRowOfTheTree) {
     EXPECT_TRUE(program.close());
 }
 
-// Nothing may pile up while a user looks around for a long time.
-TEST(Program, LosesNoGdiObjectsOverManySelections) {
-    Driver program("winxp");
-    ASSERT_TRUE(program.running());
-    const std::vector<TreeRow> rows = program.treeRows();
-    const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION, FALSE, [&] {
-        DWORD id = 0;
-        GetWindowThreadProcessId(program.window(), &id);
-        return id;
-    }());
-    const auto walk = [&] {
-        for (const TreeRow& row : rows) {
-            program.select(row);
-        }
-        return GetGuiResources(process, GR_GDIOBJECTS);
-    };
-    const DWORD before = walk();
-    walk();
-    walk();
-    EXPECT_LE(walk(), before + 2);
-    CloseHandle(process);
-}
-
 }  // namespace
 }  // namespace korvane::program

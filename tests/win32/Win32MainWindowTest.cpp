@@ -3,6 +3,8 @@
 #include "platform/win32/Win32MainWindow.h"
 #include "platform/win32/Win32System.h"
 #include "res/ControlIds.h"
+#include "tests/win32/PictureOfWindow.h"
+#include "tests/win32/WindowsProgram.h"
 #include "tests/win32/Win32DialogEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -117,6 +119,20 @@ TEST_F(Win32MainWindowTest, CommandsReachTheirOwners) {
         EXPECT_EQ(told, (std::vector<std::string>{"apply", "about", "help", "selection", "divider -20"}));
         EXPECT_TRUE(IsWindowVisible(dialog));  // drawing was off while the page changed
     });
+}
+
+// Nothing may pile up while a user looks around for a long time.
+TEST(MainWindowObjects, AThousandSelectionsLeaveNoneBehind) {
+    WindowsProgram program({.windows = "xp", .registry = sampleRegistry()});
+    const auto select = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            program.select(i % 120);
+        }
+    };
+    select(120);
+    const int before = drawingObjectMark();
+    select(1000);
+    EXPECT_LE(drawingObjectMark(), before + 2);
 }
 
 }  // namespace
