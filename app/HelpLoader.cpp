@@ -1,7 +1,7 @@
 // Loading the help library: where it is registered, else by its name.
 #include "app/HelpLoader.h"
 
-#include "platform/RegistryAccess.h"
+#include "pages/RegistryAccess.h"
 
 #include <algorithm>
 #include <array>

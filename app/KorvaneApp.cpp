@@ -2,7 +2,7 @@
 #include "app/KorvaneApp.h"
 
 #include "app/StringTable.h"
-#include "platform/RegistryAccess.h"
+#include "pages/RegistryAccess.h"
 
 namespace korvane {
 namespace {

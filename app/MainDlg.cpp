@@ -3,7 +3,7 @@
 
 #include "app/AboutDlg.h"
 #include "app/StringTable.h"
-#include "platform/EqualIgnoringCase.h"
+#include "text/EqualIgnoringCase.h"
 #include "platform/MessageBoxes.h"
 #include "res/ControlIds.h"
 

@@ -1,7 +1,7 @@
 // Elsewhere than on Windows the system speaks UTF-8, and there is no live registry.
 #include "cli/HostText.h"
 
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 #ifdef _WIN32
 #include <windows.h>

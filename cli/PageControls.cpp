@@ -1,7 +1,7 @@
 // One function per kind of control.
 #include "cli/PageControls.h"
 
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 #include <algorithm>
 

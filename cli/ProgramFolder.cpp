@@ -5,7 +5,7 @@
 #include <windows.h>
 #else
 #include "cli/HostText.h"
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 #include <dirent.h>
 #include <sys/stat.h>

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/System.h"
-#include "platform/memory/IniFile.h"
+#include "platform/stdio/IniFile.h"
 #include "platform/memory/MemorySystem.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <cstddef>
 #include <map>

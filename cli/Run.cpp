@@ -9,7 +9,7 @@
 #include "cli/PageJson.h"
 #include "cli/PageText.h"
 #include "cli/Session.h"
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 #include <variant>
 

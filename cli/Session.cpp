@@ -3,7 +3,7 @@
 
 #include "cli/RegFileStore.h"
 #include "pages/PageLayout.h"
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 #include "res/ControlIds.h"
 
 namespace korvane {

@@ -10,7 +10,7 @@
 #include "cli/Problem.h"
 #include "cli/ProgramFolder.h"
 #include "platform/memory/MemoryMainWindow.h"
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 #include "platform/memory/MemorySystem.h"
 
 #include <memory>

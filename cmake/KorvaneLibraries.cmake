@@ -1,12 +1,13 @@
-# The libraries: the portable core, kmctl's commands, and on Windows the real platform and the resources.
+# The libraries: the portable core, kmctl's commands, what generates documents, and on Windows the real platform and
+# the resources.
 
-korvane_sources(core_sources FOLDERS app pages history lang skin catalogue platform
-    EXCLUDE "^(skin|platform)/win32/")
+korvane_sources(core_sources FOLDERS app pages history lang skin catalogue platform regfile text
+    EXCLUDE "^(app|skin|platform)/win32/")
 korvane_library(korvane_core ${core_sources})
 
 if(WIN32)
     # WinMain.cpp is the program's own; TerminateHandler.cpp only takes effect as an object of a program.
-    korvane_sources(win32_sources FOLDERS platform/win32 skin/win32 EXCLUDE "/(WinMain|TerminateHandler)\\.cpp$")
+    korvane_sources(win32_sources FOLDERS platform/win32 skin/win32 app/win32 EXCLUDE "/(WinMain|TerminateHandler)\\.cpp$")
     korvane_library(korvane_win32 ${win32_sources})
     target_link_libraries(korvane_win32 PUBLIC korvane_core
         user32 gdi32 comctl32 comdlg32 advapi32 shell32 ole32 oleaut32)
@@ -27,7 +28,15 @@ if(cli_sources)
     target_link_libraries(korvane_cli PUBLIC korvane_core $<TARGET_NAME_IF_EXISTS:korvane_win32>)
 endif()
 
+# What is generated from the catalogue is generated on the machine that builds.
+if(NOT WIN32)
+    korvane_sources(docgen_sources FOLDERS docgen)
+    korvane_library(korvane_docgen ${docgen_sources})
+    target_link_libraries(korvane_docgen PUBLIC korvane_core)
+endif()
+
 # What tests and fuzz targets may use.
 add_library(korvane_all INTERFACE)
 target_link_libraries(korvane_all INTERFACE
-    korvane_core $<TARGET_NAME_IF_EXISTS:korvane_win32> $<TARGET_NAME_IF_EXISTS:korvane_cli>)
+    korvane_core $<TARGET_NAME_IF_EXISTS:korvane_win32> $<TARGET_NAME_IF_EXISTS:korvane_cli>
+    $<TARGET_NAME_IF_EXISTS:korvane_docgen>)

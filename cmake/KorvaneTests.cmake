@@ -26,7 +26,7 @@ function(korvane_test_program name)
 endfunction()
 
 if(WIN32)
-    korvane_sources(test_sources FOLDERS tests EXCLUDE "^tests/program/")
+    korvane_sources(test_sources FOLDERS tests EXCLUDE "^tests/(program|docgen)/")
 else()
     korvane_sources(test_sources FOLDERS tests EXCLUDE "^tests/(program|win32)/")
 endif()

@@ -8,7 +8,7 @@
 
 #include "history/DateStore.h"
 #include "platform/memory/MemorySystem.h"
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 
 namespace {
 

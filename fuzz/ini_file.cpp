@@ -1,6 +1,6 @@
 // Feeds any bytes to the INI reader. Whatever stands in a file, an answer fits its buffer and holds no zero byte, and
 // a section of its own behind it is still read.
-#include "platform/memory/IniFile.h"
+#include "platform/stdio/IniFile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -8,8 +8,8 @@
 
 #include "app/ItemTable.h"
 #include "lang/LanguageFile.h"
-#include "pages/PageTemplates.h"
-#include "platform/memory/IniFile.h"
+#include "platform/memory/DialogTemplates.h"
+#include "platform/stdio/IniFile.h"
 #include "platform/memory/MemoryDialog.h"
 #include "res/ControlIds.h"
 

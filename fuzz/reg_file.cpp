@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Reading, writing and repairing the date file.
 #include "history/DateStore.h"
 
-#include "platform/RegistryAccess.h"
-#include "platform/ReplaceAll.h"
+#include "pages/RegistryAccess.h"
+#include "text/ReplaceAll.h"
 
 namespace korvane {
 namespace {

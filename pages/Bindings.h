@@ -4,10 +4,10 @@
 // this folder.
 #pragma once
 
-#include "pages/OsVersion.h"
-#include "platform/RegistryAccess.h"
-#include "platform/EqualIgnoringCase.h"
-#include "platform/ReplaceAll.h"
+#include "platform/OsVersion.h"
+#include "pages/RegistryAccess.h"
+#include "text/EqualIgnoringCase.h"
+#include "text/ReplaceAll.h"
 #include "platform/DialogControls.h"
 
 #include <cstdint>

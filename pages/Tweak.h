@@ -4,6 +4,7 @@
 #pragma once
 
 #include "pages/Bindings.h"
+#include "pages/Gate.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Boxes and signs, in sizes that follow the resolution of the screen.
 #include "skin/ElementPainter.h"
 
-#include "platform/EqualIgnoringCase.h"
+#include "text/EqualIgnoringCase.h"
 
 #include <algorithm>
 

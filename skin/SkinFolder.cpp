@@ -1,7 +1,7 @@
 // Splitting the path, and reading whole files.
 #include "skin/SkinFolder.h"
 
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <utility>
 

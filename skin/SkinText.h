@@ -2,7 +2,7 @@
 // by line, so that every mistake can be named with its line.
 #pragma once
 
-#include "platform/EqualIgnoringCase.h"
+#include "text/EqualIgnoringCase.h"
 #include "skin/SkinFile.h"
 
 #include <string>

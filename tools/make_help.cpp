@@ -2,7 +2,7 @@
 //     make_help help OUTPUT-FOLDER
 // The first folder holds the hand-written pages and the style sheet, which are
 // copied; the second one must exist.
-#include "app/HelpPages.h"
+#include "docgen/HelpPages.h"
 
 #include <cstdio>
 #include <cstdlib>

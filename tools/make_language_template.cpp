@@ -1,6 +1,6 @@
 // Writes the language file of the program's own texts to standard output:
 //     make_language_template > data/Language/English.ini
-#include "app/LanguageTemplate.h"
+#include "docgen/LanguageTemplate.h"
 
 #include <cstdio>
 

@@ -1,6 +1,6 @@
 // Writes the document of all tweaks to standard output:
 //     make_tweaks_document > docs/TWEAKS.md
-#include "app/TweaksDocument.h"
+#include "docgen/TweaksDocument.h"
 
 #include <cstdio>
 

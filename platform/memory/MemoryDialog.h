@@ -4,7 +4,7 @@
 // answering false, what nobody could do with the control as it stands.
 #pragma once
 
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "platform/DialogControls.h"
 
 #include <cstddef>

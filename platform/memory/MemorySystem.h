@@ -5,8 +5,8 @@
 
 #include "platform/MessageBoxes.h"
 #include "platform/System.h"
-#include "platform/memory/IniFile.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/IniFile.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -5,7 +5,7 @@
 
 #include "platform/MessageBoxes.h"
 #include "platform/System.h"
-#include "platform/memory/IniFile.h"
+#include "platform/stdio/IniFile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Reading the skin, and which window is painted as what.
 #include "skin/win32/SkinEngine.h"
 
-#include "platform/EqualIgnoringCase.h"
+#include "text/EqualIgnoringCase.h"
 #include "platform/win32/Win32Dialog.h"
 #include "skin/SkinFolder.h"
 #include "skin/win32/SkinnedWindow.h"

@@ -3,7 +3,7 @@
 #include "skin/win32/SkinnedFrame.h"
 #include "skin/win32/SkinnedWindow.h"
 
-#include "platform/EqualIgnoringCase.h"
+#include "text/EqualIgnoringCase.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "app/StringTable.h"
 #include "catalogue/Catalogue.h"
 #include "pages/PageLayout.h"
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "res/ControlIds.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // registry: what must hold for all of them, whatever they are bound to.
 #include "app/StringTable.h"
 #include "catalogue/Catalogue.h"
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "res/ControlIds.h"
 #include "tests/support/AppFixture.h"
 

@@ -1,5 +1,5 @@
 // apply: what it writes to the file, what it says, and what leaves the file untouched.
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 #include "tests/cli/KmctlTest.h"
 
 namespace korvane {

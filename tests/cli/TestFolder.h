@@ -1,7 +1,7 @@
 // A folder of its own for each test, removed afterwards with all that is in it.
 #pragma once
 
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <gtest/gtest.h>
 

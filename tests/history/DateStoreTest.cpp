@@ -1,7 +1,7 @@
 // The date file: its form, how dates are found and renewed, and every way in
 // which the file can be missing, refused, damaged or not this program's.
 #include "history/DateStore.h"
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 #include "tests/support/AppFixture.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Language files: escapes, cut values, and what is left in English.
 #include "app/ItemTable.h"
 #include "lang/LanguageFile.h"
-#include "pages/PageTemplates.h"
-#include "platform/memory/IniFile.h"
+#include "platform/memory/DialogTemplates.h"
+#include "platform/stdio/IniFile.h"
 #include "platform/memory/MemoryDialog.h"
 #include "res/ControlIds.h"
 

@@ -15,7 +15,7 @@
 #include <string_view>
 #include <vector>
 
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "platform/DialogControls.h"
 #include "res/ControlIds.h"
 

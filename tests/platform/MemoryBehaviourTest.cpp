@@ -1,9 +1,9 @@
 // The behaviour tests over registry and dialogs in memory, and what only that registry has: denied keys and
 // texts without their zero.
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 
 #include "platform/memory/MemoryDialog.h"
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 #include "tests/platform/DialogBehaviour.h"
 #include "tests/platform/RegistryBehaviour.h"
 

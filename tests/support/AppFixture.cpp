@@ -1,9 +1,9 @@
 // Running the program for tests, and comparing what it shows and writes.
 #include "tests/support/AppFixture.h"
 
-#include "pages/PageTemplates.h"
-#include "platform/memory/RegFile.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/memory/DialogTemplates.h"
+#include "regfile/RegFile.h"
+#include "platform/stdio/StdioFiles.h"
 #include "res/ControlIds.h"
 
 #include <algorithm>

@@ -8,7 +8,7 @@
 #include "app/MainDlg.h"
 #include "platform/MessageBoxes.h"
 #include "platform/memory/MemoryMainWindow.h"
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 #include "platform/memory/MemorySystem.h"
 
 #include <gtest/gtest.h>

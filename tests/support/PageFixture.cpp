@@ -2,7 +2,7 @@
 #include "tests/support/PageFixture.h"
 
 #include "pages/PageLayout.h"
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 #include "res/ControlIds.h"
 
 #include <gtest/gtest.h>

@@ -5,7 +5,7 @@
 
 #include "pages/TweakEngine.h"
 #include "platform/memory/MemoryDialog.h"
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 #include "platform/memory/MemorySystem.h"
 
 #include <cstddef>

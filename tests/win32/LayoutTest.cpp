@@ -4,7 +4,7 @@
 #include "tests/support/AppFixture.h"
 #include "tests/win32/Win32DialogEnvironment.h"
 
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "res/ControlIds.h"
 #include "skin/win32/SkinEngine.h"
 

@@ -1,7 +1,7 @@
 // Moving the roots, and reading the keys back.
 #include "tests/win32/ScratchRegistry.h"
 
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // leave nothing behind: HKEY_CURRENT_USER\Software\KorvaneTest\<process id>\HKEY_LOCAL_MACHINE and so on.
 #pragma once
 
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 #include "platform/win32/Win32Registry.h"
 
 #include <cstddef>

@@ -2,7 +2,7 @@
 // main window's inside.
 #pragma once
 
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "platform/win32/TreeListCtrl.h"
 #include "platform/win32/Win32DialogHost.h"
 

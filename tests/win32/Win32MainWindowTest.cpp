@@ -1,6 +1,6 @@
 // The real main window, run modally with a handler that looks at it from
 // inside: what lies above what, where the keyboard goes, what it is told.
-#include "platform/win32/Win32MainWindow.h"
+#include "app/win32/Win32MainWindow.h"
 #include "platform/win32/Win32System.h"
 #include "res/ControlIds.h"
 #include "tests/win32/PictureOfWindow.h"

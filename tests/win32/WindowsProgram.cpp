@@ -2,7 +2,7 @@
 // would.
 #include "tests/win32/WindowsProgram.h"
 
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "res/ControlIds.h"
 
 namespace korvane {

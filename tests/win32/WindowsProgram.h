@@ -4,7 +4,7 @@
 // nor the registry depend on them.
 #pragma once
 
-#include "platform/win32/Win32MainWindow.h"
+#include "app/win32/Win32MainWindow.h"
 #include "platform/win32/Win32System.h"
 #include "tests/support/AppFixture.h"
 #include "tests/win32/ScratchRegistry.h"

@@ -1,12 +1,12 @@
 // Writing every text under the key by which the program looks it up.
-#include "app/LanguageTemplate.h"
+#include "docgen/LanguageTemplate.h"
 
 #include "app/KorvaneApp.h"
 #include "app/StringTable.h"
 #include "catalogue/Catalogue.h"
 #include "lang/LanguageFile.h"
 #include "pages/PageLayout.h"
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 #include "res/ControlIds.h"
 
 namespace korvane {

@@ -1,10 +1,10 @@
 // Writing the pages. They are XHTML 1.0 without what old browsers stumble
 // over: plain ASCII, every element closed, an anchor by name and by id.
-#include "app/HelpPages.h"
+#include "docgen/HelpPages.h"
 
-#include "app/BindingText.h"
-#include "app/HelpProject.h"
-#include "app/HelpTopics.h"
+#include "docgen/BindingText.h"
+#include "docgen/HelpProject.h"
+#include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
 #include "pages/PageLayout.h"
 #include "res/ControlIds.h"

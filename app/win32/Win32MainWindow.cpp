@@ -1,5 +1,5 @@
 // The dialog procedure of the main window, and what its owner asks of it.
-#include "platform/win32/Win32MainWindow.h"
+#include "app/win32/Win32MainWindow.h"
 
 #include "platform/win32/Splitter.h"
 #include "platform/win32/Win32System.h"

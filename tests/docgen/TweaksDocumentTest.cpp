@@ -1,11 +1,11 @@
 // The generated document of all tweaks: it is current, and what it says of an
 // apply is what the engine writes.
-#include "app/TweaksDocument.h"
+#include "docgen/TweaksDocument.h"
 
-#include "app/HelpPages.h"
+#include "docgen/HelpPages.h"
 #include "catalogue/Catalogue.h"
-#include "pages/PageTemplates.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/memory/DialogTemplates.h"
+#include "platform/stdio/StdioFiles.h"
 #include "tests/support/AppFixture.h"
 
 #include <algorithm>

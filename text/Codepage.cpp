@@ -1,6 +1,6 @@
 // Conversions between UTF-16, Windows-1252 and UTF-8, and upper case for comparing registry names. Written out by
 // table and by rule because the C library's own depend on the locale of the machine.
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 #include <algorithm>
 #include <array>

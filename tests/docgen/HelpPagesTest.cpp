@@ -1,10 +1,10 @@
 // The help: nothing of the catalogue is missing from its pages or told twice,
 // every link leads somewhere, and no text breaks the HTML around it.
-#include "app/HelpPages.h"
+#include "docgen/HelpPages.h"
 
-#include "app/HelpTopics.h"
+#include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <gtest/gtest.h>
 

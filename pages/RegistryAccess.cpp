@@ -1,5 +1,5 @@
 // The registry conventions of the program.
-#include "platform/RegistryAccess.h"
+#include "pages/RegistryAccess.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // Reading and writing .reg text: what survives a round trip byte for byte, what is refused and where, and the layout.
-#include "platform/memory/RegFile.h"
+#include "regfile/RegFile.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // (.hhc), index (.hhk) and project (.hhp).
 #pragma once
 
-#include "app/HelpPages.h"
+#include "docgen/HelpPages.h"
 
 namespace korvane {
 

@@ -1,8 +1,8 @@
 // Contents and index are lists of objects in the form that help compilers read.
-#include "app/HelpProject.h"
+#include "docgen/HelpProject.h"
 
-#include "app/BindingText.h"
-#include "app/HelpTopics.h"
+#include "docgen/BindingText.h"
+#include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
 
 #include <algorithm>

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 
 namespace korvane {
 

@@ -1,9 +1,9 @@
 // The generated language file: it is current, it changes nothing, and it
 // misses nothing that a user reads.
-#include "app/LanguageTemplate.h"
+#include "docgen/LanguageTemplate.h"
 
 #include "catalogue/Catalogue.h"
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 #include "tests/support/AppFixture.h"
 
 namespace korvane {

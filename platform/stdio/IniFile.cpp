@@ -1,9 +1,9 @@
 // The rules are those that the platform's profile functions were seen to
 // follow; the tests run over them and over this reader alike.
-#include "platform/memory/IniFile.h"
+#include "platform/stdio/IniFile.h"
 
-#include "platform/memory/Codepage.h"
-#include "platform/memory/StdioFiles.h"
+#include "text/Codepage.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <algorithm>
 #include <set>

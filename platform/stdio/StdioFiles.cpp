@@ -1,6 +1,6 @@
 // Files are unbuffered, so that an error of the disk shows in the call that
 // causes it and never when the file is closed.
-#include "platform/memory/StdioFiles.h"
+#include "platform/stdio/StdioFiles.h"
 
 #include <algorithm>
 #include <cstdio>

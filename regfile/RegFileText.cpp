@@ -1,11 +1,11 @@
 // Telling the encodings of .reg files apart, and writing them.
-#include "platform/memory/RegFileText.h"
+#include "regfile/RegFileText.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 namespace korvane {
 namespace {

@@ -1,10 +1,10 @@
 // Keys and values in memory. Every look-up is logarithmic, so that no .reg file, however large and lopsided, takes
 // more than a little over linear time.
-#include "platform/memory/RegistryTree.h"
+#include "regfile/RegistryTree.h"
 
 #include <utility>
 
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 namespace korvane {
 namespace {

@@ -1,5 +1,5 @@
 // Dealing the records out to the pages of the help.
-#include "app/HelpTopics.h"
+#include "docgen/HelpTopics.h"
 
 #include "catalogue/Catalogue.h"
 

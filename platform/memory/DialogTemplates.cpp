@@ -1,5 +1,5 @@
 // Turns the control lists of the resource script into tables.
-#include "pages/PageTemplates.h"
+#include "platform/memory/DialogTemplates.h"
 
 #include "res/ControlIds.h"
 

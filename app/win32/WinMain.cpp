@@ -2,7 +2,7 @@
 // together.
 #include "app/KorvaneApp.h"
 #include "app/MainDlg.h"
-#include "platform/win32/Win32MainWindow.h"
+#include "app/win32/Win32MainWindow.h"
 #include "platform/win32/Win32Registry.h"
 #include "platform/win32/Win32System.h"
 

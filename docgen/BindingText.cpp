@@ -1,5 +1,5 @@
 // One function for each binding kind, side by side as in the engine.
-#include "app/BindingText.h"
+#include "docgen/BindingText.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,8 +1,8 @@
 // Writing the catalogue as Markdown. A backslash at the end of a line is a line
 // break.
-#include "app/TweaksDocument.h"
+#include "docgen/TweaksDocument.h"
 
-#include "app/BindingText.h"
+#include "docgen/BindingText.h"
 #include "catalogue/Catalogue.h"
 
 namespace korvane {

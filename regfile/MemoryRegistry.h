@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "platform/Registry.h"
-#include "platform/memory/RegistryTree.h"
+#include "regfile/RegistryTree.h"
 
 namespace korvane {
 

@@ -1,12 +1,12 @@
 // The registry's verbs over the tree in memory, with the answers Windows NT gives.
-#include "platform/memory/MemoryRegistry.h"
+#include "regfile/MemoryRegistry.h"
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
 #include <vector>
 
-#include "platform/memory/Codepage.h"
+#include "text/Codepage.h"
 
 namespace korvane {
 namespace {

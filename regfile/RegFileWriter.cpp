@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/memory/Codepage.h"
-#include "platform/memory/RegFile.h"
-#include "platform/memory/RegFileText.h"
+#include "text/Codepage.h"
+#include "regfile/RegFile.h"
+#include "regfile/RegFileText.h"
 
 namespace korvane {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/memory/RegFile.h"
-#include "platform/memory/RegistryTree.h"
+#include "regfile/RegFile.h"
+#include "regfile/RegistryTree.h"
 
 namespace korvane {
 
