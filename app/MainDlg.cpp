@@ -262,21 +262,43 @@ void CMainDlg::stamp() {
     }
 }
 
-void CMainDlg::alert(int stringId) {
+// A tweak shows its title, or its row's text in the tree where the row says so; a translated title replaces both.
+std::vector<OverviewRow> CMainDlg::overviewRows(const Tweak& category) {
+    std::vector<OverviewRow> rows;
+    for (const int id : overviewItems(category)) {
+        const Tweak& tweak = *findTweak(id);
+        const std::string title = app_.items().title(id);
+        const bool ownText = tweak.overviewShowsTreeText && title == tweak.title;
+        rows.push_back({ownText ? std::string(tweak.treeText) : title, dates_.LookUp(title)});
+    }
+    return rows;
+}
+
+void CMainDlg::alert(Alert alert) {
+    const int stringId = static_cast<int>(alert);
     app_.platform().messages.show({.text = app_.LoadString(stringId),
                                    .caption = app_.LoadString(kStringAlertCaption),
                                    .icon = MessageIcon::Stop,
                                    .stringId = stringId});
 }
 
-std::string CMainDlg::browse() {
+bool CMainDlg::boxEnablesFields() {
+    const Tweak* tweak = findTweak(currentItem());
+    return tweak != nullptr && tweak->boxEnablesFields;
+}
+
+std::string CMainDlg::browse(int button) {
+    Picker picker = Picker::File;
+    if (const Tweak* tweak = findTweak(currentItem())) {
+        for (std::size_t i = 0; i < tweak->fields.size(); ++i) {
+            picker = fieldControls(*tweak, i).browse == button ? tweak->fields[i].picker : picker;
+        }
+    }
     Pickers& pickers = app_.platform().pickers;
-    const int item = currentItem();
-    if (item == 107 || item == 255 || item == 306 || item == 307) {
+    if (picker == Picker::Folder) {
         return pickers.browseForFolder();
     }
-    constexpr int kRecycleBinIcons = 62;
-    const std::string file = pickers.openFile(item == kRecycleBinIcons ? "*.ico||" : "All Files(*.*)|*.*||");
+    const std::string file = pickers.openFile(picker == Picker::IconFile ? "*.ico||" : "All Files(*.*)|*.*||");
     return file.empty() ? file : '"' + file + '"';
 }
 

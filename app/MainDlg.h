@@ -43,19 +43,18 @@ private:
     void showApplyButton() override;
     Rect applyButtonRect(Page page) override;
     std::string headerText(int id) override { return app_.items().headerText(id); }
-    std::string title(int id) override { return app_.items().title(id); }
+    std::vector<OverviewRow> overviewRows(const Tweak& category) override;
     std::string translated(int id, const std::string& key, std::string_view text) override;
-    std::string dateOf(std::string_view title) override { return dates_.LookUp(title); }
     void stamp() override;
-    void alert(int stringId) override;
+    void alert(Alert alert) override;
     ListColumns& listColumns() override { return listColumns_; }
 
     // DialogHost
     bool applySkinElement(DialogControls& dialog, const SkinElement& element) override;
     void showSkinFailure() override;
     std::uint32_t randomSeed() override { return app_.platform().clock.seed(); }
-    int currentItem() override { return static_cast<int>(currentItem_); }
-    std::string browse() override;
+    bool boxEnablesFields() override;
+    std::string browse(int button) override;
 
     void appendAboutItem();
     void showSplash();
@@ -67,6 +66,7 @@ private:
     void createPages();
     void hideAllPages();
     CCatalogModule* moduleOf(std::uint32_t id);
+    int currentItem() const { return static_cast<int>(currentItem_); }
 
     CKorvaneApp& app_;
     MainWindow& window_;

@@ -56,4 +56,16 @@ std::span<const CatalogueGroup> catalogueGroups() { return kGroups; }
 
 const Tweak* findTweak(int id) { return id < 0 || id >= kItemCount ? nullptr : table()[static_cast<std::size_t>(id)]; }
 
+std::vector<int> overviewItems(const Tweak& category) {
+    const std::span<const int> own = category.overview.rows;
+    std::vector<int> items(own.begin(), own.end());
+    for (int id = 0; own.empty() && id < kItemCount; ++id) {
+        const Tweak& tweak = *findTweak(id);
+        if (tweak.treeParent == category.id && !tweak.isCategory()) {
+            items.push_back(id);
+        }
+    }
+    return items;
+}
+
 }  // namespace korvane

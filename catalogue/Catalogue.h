@@ -6,6 +6,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace korvane {
 
@@ -17,6 +18,10 @@ struct CatalogueGroup {
 };
 
 std::span<const CatalogueGroup> catalogueGroups();
+
+// The ItemIds that a category's overview lists, from top to bottom: its own list, or the tweaks right below it in the
+// tree.
+std::vector<int> overviewItems(const Tweak& category);
 
 // Null for a number outside 0 to 310.
 const Tweak* findTweak(int id);

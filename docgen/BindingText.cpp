@@ -127,12 +127,10 @@ BindingText placesOf(const Kind& kind, ValueType type) {
     first.words(" (").words(typeName(type)).words(") in ");
     BindingText text;
     addKeys(text, first, kind.key);
-    if constexpr (requires { kind.also; }) {
-        if (kind.also) {
-            Line also;
-            also.words("and in ");
-            addKeys(text, also, *kind.also);
-        }
+    if (kind.key.also != nullptr) {
+        Line also;
+        also.words(kind.key.alsoFirst ? "and before that in " : "and in ");
+        addKeys(text, also, *kind.key.also);
     }
     return text;
 }
@@ -235,6 +233,19 @@ BindingText describeKind(const ShellVerbKey& verb) {
         cleared.words("; either shows as checked");
     }
     text.effects.push_back(cleared.pieces);
+    return text;
+}
+
+BindingText describeKind(const MirroredPolicy& policy) {
+    BindingText text = placesOf(policy, ValueType::Sz);
+    Line mirror;
+    mirror.words("and in ");
+    addKeys(text, mirror, policy.mirror);
+    Line line;
+    line.state("checked", policy.text).state("cleared").words("the value is deleted from the first key, and ");
+    const std::string tree = below(below(shortName(policy.mirror.root), policy.mirror.path), policy.deletedTree);
+    line.literal(tree).words(" with all below it; shown checked while both have the value");
+    text.effects.push_back(line.pieces);
     return text;
 }
 
@@ -370,10 +381,37 @@ BindingText describeBinding(const Binding& binding) {
 
 }  // namespace
 
-BindingText describe(const CheckBox& box) { return describeBinding(box.binding); }
+BindingText describe(const CheckBox& box) {
+    BindingText text = describeBinding(box.binding);
+    if (box.onVersions.empty()) {
+        return text;
+    }
+    // Of each version the places, and right behind them what is written there.
+    BindingText all;
+    const auto append = [&](const std::string& versions, const BindingText& part) {
+        for (const TextLine& place : part.places) {
+            all.places.push_back({{versions}});
+            all.places.back().insert(all.places.back().end(), place.begin(), place.end());
+        }
+        all.places.insert(all.places.end(), part.effects.begin(), part.effects.end());
+    };
+    for (const VersionedBinding& versioned : box.onVersions) {
+        append("on " + windowsVersions(versioned.on) + ": ", describeBinding(versioned.binding));
+    }
+    append("on any other Windows: ", text);
+    return all;
+}
+
+BindingText describe(const FixedText& fixed) {
+    BindingText text = placesOf(fixed, ValueType::Sz);
+    Line line;
+    line.state("every apply", fixed.text);
+    text.effects.push_back(line.pieces);
+    return text;
+}
 
 BindingText describe(const Field& field) {
-    return std::visit([&](const auto& kind) { return describeField(kind, field.required != 0); }, field.binding);
+    return std::visit([&](const auto& kind) { return describeField(kind, field.required != Alert::None); }, field.binding);
 }
 
 BindingText describe(const Choice& choice) { return describeBinding(choice.binding); }
@@ -381,7 +419,7 @@ BindingText describe(const ColourField& colour) { return describeBinding(colour.
 
 BindingText describe(const Table& table) {
     const auto* rows = std::get_if<DwordRowChoice>(&table.binding);
-    return rows == nullptr ? BindingText() : describeRows(*rows, table);
+    return rows == nullptr ? BindingText() : describeRows(*rows, table);  // what else is listed, the row's text tells
 }
 
 TextLine markedText(std::string_view text) {
@@ -410,6 +448,13 @@ std::string windowsVersions(VersionSet versions) {
         }
     }
     return text;
+}
+
+std::string acceptedBy(const Gate& gate) {
+    if (!gate.refused.empty()) {
+        return "Every Windows but " + windowsVersions(gate.refused).substr(std::string_view("Windows ").size());
+    }
+    return gate.accepted.empty() ? "Every Windows" : windowsVersions(gate.accepted);
 }
 
 }  // namespace korvane

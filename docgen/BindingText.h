@@ -29,11 +29,15 @@ BindingText describe(const Field& field);
 BindingText describe(const Choice& choice);
 BindingText describe(const ColourField& colour);
 BindingText describe(const Table& table);
+BindingText describe(const FixedText& fixed);
 
 // The pieces of a text in which literal parts stand between grave accents.
 TextLine markedText(std::string_view text);
 
 // "Windows 98, Me, 2000, XP"
 std::string windowsVersions(VersionSet versions);
+
+// "Windows 98, Me, 2000, XP", or "Every Windows", or "Every Windows but 95".
+std::string acceptedBy(const Gate& gate);
 
 }  // namespace korvane

@@ -141,6 +141,11 @@ struct ControlsText {
         }
     }
 
+    void addFixed(const BindingText& binding) {
+        text += "<dt>" + styled("span", "kind", "no control") + "</dt>\n";
+        text += element("dd", html(binding.places.front())) + "\n" + element("dd", states(binding.effects.front())) + "\n";
+    }
+
     // The rows of a list that stand for no number.
     void addRows(const Table& table) {
         std::string rows;
@@ -190,6 +195,11 @@ std::string controlsOf(const Tweak& tweak) {
     if (tweak.table != nullptr) {
         addList(controls);
     }
+    for (const auto& texts : {tweak.writesFirst, tweak.writesLast}) {
+        for (const FixedText& fixed : texts) {
+            controls.addFixed(describe(fixed));
+        }
+    }
     return controls.text.empty() ? controls.text : "<dl>\n" + controls.text + "</dl>\n";
 }
 
@@ -200,15 +210,14 @@ std::string facts(const Tweak& tweak) {
     if (!tweak.hasShow()) {
         return text + "Kept in the table, without a page: there is nothing to change.";
     }
-    if (tweak.overview != nullptr) {
+    if (tweak.hasOverview()) {
         text += "A category; its overview lists";
-        for (const OverviewRow& row : tweak.overview->rows) {
-            text += (text.ends_with("lists") ? " " : ", ") + linkTo(row.id);
+        for (const int row : overviewItems(tweak)) {
+            text += (text.ends_with("lists") ? " " : ", ") + linkTo(row);
         }
         return text + '.';
     }
-    const std::string versions = windowsVersions(tweak.gate.accepted);
-    text += (versions.empty() ? "Every Windows" : versions) + '.';
+    text += acceptedBy(tweak.gate) + '.';
     return text + (tweak.showOnly ? " The page only shows what is set; nothing is written." : "");
 }
 
@@ -219,7 +228,7 @@ std::string registryLine(std::string_view name, std::string_view text) {
 std::string entry(const Tweak& tweak) {
     std::string text = heading("h2", tweak.id) + element("p", escapeHtml(tweak.description)) + "\n" +
                        styled("p", "facts", facts(tweak)) + "\n";
-    if (!tweak.hasShow() || tweak.overview != nullptr) {
+    if (!tweak.hasShow() || tweak.hasOverview()) {
         return text;
     }
     text += controlsOf(tweak) + registryLine("Registry", tweak.registry) + registryLine("Source", tweak.source);

@@ -110,15 +110,10 @@ std::string placeInTree(const Tweak& tweak) {
 
 std::string overviewOf(const Tweak& category) {
     std::string text = " Category; its overview lists";
-    for (const OverviewRow& row : category.overview->rows) {
-        text.append(text.back() == 's' ? " " : ", ").append(std::to_string(row.id));
+    for (const int row : overviewItems(category)) {
+        text.append(text.back() == 's' ? " " : ", ").append(std::to_string(row));
     }
     return text + '.';
-}
-
-std::string acceptedBy(const Tweak& tweak) {
-    const std::string versions = windowsVersions(tweak.gate.accepted);
-    return (versions.empty() ? " Every Windows" : ' ' + versions) + '.';
 }
 
 void addControls(std::string& document, const Tweak& tweak) {
@@ -137,6 +132,11 @@ void addControls(std::string& document, const Tweak& tweak) {
     if (tweak.table != nullptr) {
         addControl(document, tweak, "the list", describe(*tweak.table));
     }
+    for (const auto& texts : {tweak.writesFirst, tweak.writesLast}) {
+        for (const FixedText& fixed : texts) {
+            addControl(document, tweak, "no control", describe(fixed));
+        }
+    }
 }
 
 void addLine(std::string& document, std::string_view name, std::string_view text) {
@@ -149,11 +149,11 @@ std::string heading(const Tweak& tweak) { return std::to_string(tweak.id) + ' ' 
 
 void addTweak(std::string& document, const Tweak& tweak) {
     document += "### " + heading(tweak) + "\n\n" + escape(tweak.description) + "\n\n" + placeInTree(tweak);
-    if (tweak.overview != nullptr) {
+    if (tweak.hasOverview()) {
         document += overviewOf(tweak) + "\n\n";
         return;
     }
-    document += acceptedBy(tweak);
+    document += ' ' + acceptedBy(tweak.gate) + '.';
     document += tweak.showOnly ? " The page only shows what is set; nothing is written.\n\n" : "\n\n";
     addControls(document, tweak);
     addLine(document, "Registry", tweak.registry);

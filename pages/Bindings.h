@@ -4,7 +4,7 @@
 // this folder.
 #pragma once
 
-#include "platform/OsVersion.h"
+#include "pages/Alerts.h"
 #include "pages/RegistryAccess.h"
 #include "text/EqualIgnoringCase.h"
 #include "text/ReplaceAll.h"
@@ -67,7 +67,6 @@ struct StringFlag {
     bool checkedWhenPresent = false;  // whatever the value holds
     Compare compare = Compare::Exact;
     ValueType type = ValueType::Sz;
-    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
 // Fixed bytes that mean "checked" and "cleared".
@@ -106,7 +105,6 @@ struct MaskBit {
     // What the mask holds when it cannot be read.
     std::uint32_t whenMissing = 0;
     bool checkedWhenMissing = false;
-    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
 // A shell verb: a key whose default value is the menu's text, with a subkey "command" whose default value is the
@@ -118,15 +116,26 @@ struct ShellVerbKey {
     int menuTextEdit = 0;
     std::string_view menuText = {};
     // The alert that refuses an empty menu text, after the box has been cleared again.
-    int requiredAlert = 0;
+    Alert requiredAlert = Alert::None;
     std::string_view commandLine;
     std::string_view commandLineOn9x = {};  // empty: the same on every Windows
     // A second parent: the box shows checked when either has the verb, and clearing deletes it from both.
     std::optional<KeyPath> twin = {};
 };
 
-using CheckBinding = 
-    std::variant<Unbound, DwordFlag, DwordCheckState, StringFlag, BinaryFlag, SubkeyFlag, MaskBit, ShellVerbKey>;
+// A policy and the current user's copy of it (its mirror): a text in both places. Checked while both have the value.
+struct MirroredPolicy {
+    KeyPath key;
+    KeyPath mirror;
+    std::string_view name;
+    std::string_view text;
+    // Below the mirror's opened key: the key that clearing deletes, with all that is below it. Clearing deletes the
+    // policy's value as well.
+    std::string_view deletedTree;
+};
+
+using CheckBinding = std::variant<Unbound, DwordFlag, DwordCheckState, StringFlag, BinaryFlag, SubkeyFlag, MaskBit,
+                                  ShellVerbKey, MirroredPolicy>;
 
 // ---- edit boxes --------------------------------------------------------------------------------------------------
 
@@ -149,7 +158,6 @@ struct StringValue {
     // Appended to what is written; what is shown ends before the first occurrence of `suffixStart`.
     std::string_view suffix = {};
     std::string_view suffixStart = {};
-    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
 constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view name,
@@ -219,10 +227,9 @@ struct StringChoice {
     Compare compare = Compare::Exact;
     WhenNone whenNone = WhenNone::Writes;
     std::string_view noneText = "-1";
-    std::optional<KeyPath> also = {};  // a second key, written like the first
 };
 
-// Entries whose routines stand beside the row.
+// Entries that the row's own routines look after.
 struct PlainEntry {
     std::string_view text;
 };
@@ -257,21 +264,35 @@ struct DwordRowChoice {
     std::string_view name;
 };
 
-using TableBinding = std::variant<Unbound, DwordRowChoice>;
+// A row with a check box for each registered application that counts, in the order of their keys, both when shown and
+// when applied. A checked application lacks the value; a cleared one has it, as an empty text.
+struct ApplicationRows {
+    enum class Counts : std::uint8_t {
+        WithShellSubkey,
+        // Whose name contains ".exe" or ".EXE". Intended: other letter cases do not count.
+        NamedExe,
+    };
+
+    std::string_view name;
+    Counts counts;
+};
+
+using TableBinding = std::variant<Unbound, DwordRowChoice, ApplicationRows>;
 
 // ---- the engine's side -------------------------------------------------------------------------------------------
 // show* reads the registry into a control that is in its reset state; only a successful read changes it. apply* writes
-// the live control.
+// the live control, under one of the binding's keys; a kind without a second key does everything in the first round.
 
 void showCheck(PageContext& context, int control, const CheckBinding& binding);
-void applyCheck(PageContext& context, int control, const CheckBinding& binding);
+void applyCheck(PageContext& context, int control, const CheckBinding& binding, WriteRound round = WriteRound::First);
 void showField(PageContext& context, int edit, const FieldBinding& binding);
-void applyField(PageContext& context, int edit, const FieldBinding& binding);
+void applyField(PageContext& context, int edit, const FieldBinding& binding, WriteRound round = WriteRound::First);
 void fillChoice(PageContext& context, int combo, const ChoiceBinding& binding);  // entries and initial selection
 void showChoice(PageContext& context, int combo, const ChoiceBinding& binding);
-void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding);
+void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding, WriteRound round = WriteRound::First);
 void showColour(PageContext& context, int combo, const ColourBinding& binding);
-void applyColour(PageContext& context, int combo, const ColourBinding& binding);
+void applyColour(PageContext& context, int combo, const ColourBinding& binding, WriteRound round = WriteRound::First);
+void showTable(PageContext& context, int list, const TableBinding& binding);  // the list has its columns, but no rows
 void applyTable(PageContext& context, int list, const TableBinding& binding);
 
 // Three numbers with single blanks between them, each taken modulo 256.

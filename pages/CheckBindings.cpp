@@ -8,7 +8,7 @@ namespace korvane {
 namespace {
 
 void show(PageContext&, int, const Unbound&) {}
-void apply(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&, WriteRound) {}
 
 void removeFrom(PageContext& context, const OpenedKey& key, std::string_view name) {
     ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, name));
@@ -39,13 +39,14 @@ void writeOrDelete(PageContext& context, const OpenedKey& key, std::string_view 
     }
 }
 
-void apply(PageContext& context, int control, const DwordFlag& flag) {
+void apply(PageContext& context, int control, const DwordFlag& flag, WriteRound round) {
+    const KeyPath* path = flag.key.writtenIn(round);
     const bool checked = context.checked(control);
-    if (!checked && flag.clearedDeletesByPath) {
-        context.remove(flag.key, flag.name);
+    if (path != nullptr && !checked && flag.clearedDeletesByPath) {
+        context.remove(*path, flag.name);
         return;
     }
-    const OpenedKey key = context.openForWriting(flag.key);
+    const OpenedKey key = context.openForWriting(path);
     if (!key) {
         return;
     }
@@ -65,8 +66,8 @@ void show(PageContext& context, int control, const DwordCheckState& state) {
     }
 }
 
-void apply(PageContext& context, int control, const DwordCheckState& state) {
-    if (const OpenedKey key = context.openForWriting(state.key)) {
+void apply(PageContext& context, int control, const DwordCheckState& state, WriteRound round) {
+    if (const OpenedKey key = context.openForWriting(state.key.writtenIn(round))) {
         const bool checked = context.checked(control);
         writeOrDelete(context, key, state.name, !checked && state.clearedDeletes, checked ? 1 : 0);
     }
@@ -81,8 +82,8 @@ void show(PageContext& context, int control, const StringFlag& flag) {
     }
 }
 
-void writeFlag(PageContext& context, int control, const StringFlag& flag, const KeyPath& path) {
-    const OpenedKey key = context.openForWriting(path);
+void apply(PageContext& context, int control, const StringFlag& flag, WriteRound round) {
+    const OpenedKey key = context.openForWriting(flag.key.writtenIn(round));
     if (!key) {
         return;
     }
@@ -91,13 +92,6 @@ void writeFlag(PageContext& context, int control, const StringFlag& flag, const 
         removeFrom(context, key, flag.name);
     } else {
         writeText(context.platform.registry, key, flag.name, checked ? flag.checked : flag.cleared, flag.type);
-    }
-}
-
-void apply(PageContext& context, int control, const StringFlag& flag) {
-    writeFlag(context, control, flag, flag.key);
-    if (flag.also) {
-        writeFlag(context, control, flag, *flag.also);
     }
 }
 
@@ -113,8 +107,8 @@ void show(PageContext& context, int control, const BinaryFlag& flag) {
     }
 }
 
-void apply(PageContext& context, int control, const BinaryFlag& flag) {
-    const OpenedKey key = context.openForWriting(flag.key);
+void apply(PageContext& context, int control, const BinaryFlag& flag, WriteRound round) {
+    const OpenedKey key = context.openForWriting(flag.key.writtenIn(round));
     if (!key) {
         return;
     }
@@ -143,9 +137,9 @@ void show(PageContext& context, int control, const SubkeyFlag& flag) {
     context.page.setCheck(control, present(context, flag) != flag.checkedWhenAbsent ? 1 : 0);
 }
 
-void apply(PageContext& context, int control, const SubkeyFlag& flag) {
+void apply(PageContext& context, int control, const SubkeyFlag& flag, WriteRound round) {
     Registry& registry = context.platform.registry;
-    const OpenedKey parent = context.openForWriting(flag.parent);
+    const OpenedKey parent = context.openForWriting(flag.parent.writtenIn(round));
     if (!parent) {
         return;
     }
@@ -172,8 +166,8 @@ void show(PageContext& context, int control, const MaskBit& mask) {
     context.page.setCheck(control, bitSet != mask.checkedWhenClear ? 1 : 0);
 }
 
-void writeMask(PageContext& context, int control, const MaskBit& mask, const KeyPath& path) {
-    const OpenedKey key = context.openForWriting(path);
+void apply(PageContext& context, int control, const MaskBit& mask, WriteRound round) {
+    const OpenedKey key = context.openForWriting(mask.key.writtenIn(round));
     if (!key) {
         return;
     }
@@ -188,13 +182,6 @@ void writeMask(PageContext& context, int control, const MaskBit& mask, const Key
     byte &= static_cast<std::byte>(mask.kept);
     byte = context.checked(control) != mask.checkedWhenClear ? byte | bit : byte & ~bit;
     writeBinary(context.platform.registry, key, mask.name, data);
-}
-
-void apply(PageContext& context, int control, const MaskBit& mask) {
-    writeMask(context, control, mask, mask.key);
-    if (mask.also) {
-        writeMask(context, control, mask, *mask.also);
-    }
 }
 
 // ---- ShellVerbKey
@@ -254,19 +241,44 @@ void deleteVerb(PageContext& context, const ShellVerbKey& verb) {
     }
 }
 
-void apply(PageContext& context, int control, const ShellVerbKey& verb) {
+void apply(PageContext& context, int control, const ShellVerbKey& verb, WriteRound round) {
+    if (round != WriteRound::First) {
+        return;
+    }
     if (!context.checked(control)) {
         deleteVerb(context, verb);
         return;
     }
     const std::string menuText =
         verb.menuTextEdit == 0 ? std::string(verb.menuText) : context.page.text(verb.menuTextEdit);
-    if (menuText.empty() && verb.requiredAlert != 0) {
+    if (menuText.empty() && verb.requiredAlert != Alert::None) {
         context.page.setCheck(control, 0);
         context.host.alert(verb.requiredAlert);
         return;
     }
     createVerb(context, verb, menuText);
+}
+
+// ---- MirroredPolicy
+
+void show(PageContext& context, int control, const MirroredPolicy& policy) {
+    if (context.read(policy.key, policy.name) && context.read(policy.mirror, policy.name)) {
+        context.page.setCheck(control, 1);
+    }
+}
+
+void apply(PageContext& context, int control, const MirroredPolicy& policy, WriteRound round) {
+    const KeyPath& place = round == WriteRound::First ? policy.key : policy.mirror;
+    if (context.checked(control)) {
+        if (const OpenedKey key = context.openForWriting(place)) {
+            writeText(context.platform.registry, key, policy.name, policy.text);
+        }
+    } else if (round == WriteRound::First) {
+        context.remove(place, policy.name);
+    } else {
+        const std::string tree = std::string(place.path) + '\\' + std::string(policy.deletedTree);
+        deleteTree(context.platform.registry, place.root, tree);
+    }
 }
 
 }  // namespace
@@ -275,8 +287,8 @@ void showCheck(PageContext& context, int control, const CheckBinding& binding) {
     std::visit([&](const auto& kind) { show(context, control, kind); }, binding);
 }
 
-void applyCheck(PageContext& context, int control, const CheckBinding& binding) {
-    std::visit([&](const auto& kind) { apply(context, control, kind); }, binding);
+void applyCheck(PageContext& context, int control, const CheckBinding& binding, WriteRound round) {
+    std::visit([&](const auto& kind) { apply(context, control, kind, round); }, binding);
 }
 
 }  // namespace korvane

@@ -9,6 +9,7 @@ namespace {
 
 void show(PageContext&, int, const Unbound&) {}
 void apply(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&, WriteRound) {}
 void fill(PageContext&, int, const Unbound&) {}
 
 // ---- entries
@@ -89,20 +90,17 @@ void show(PageContext& context, int combo, const DwordChoice& choice) {
     }
 }
 
-void removeFrom(PageContext& context, const KeyPath& path, std::string_view name) {
-    if (const OpenedKey key = context.openForWriting(path)) {
-        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, name));
-    }
-}
-
 // True when nothing is left to write for a combo without a selection.
-template <typename Choice>
-bool handledWithoutSelection(PageContext& context, const Choice& choice) {
+bool handledWithoutSelection(PageContext& context, const auto& choice, const KeyPath& path) {
     switch (choice.whenNone) {
         case WhenNone::Writes: return false;
         case WhenNone::WritesNothing: break;
-        case WhenNone::Deletes: context.remove(choice.key, choice.name); break;
-        case WhenNone::DeletesInOpenKey: removeFrom(context, choice.key, choice.name); break;
+        case WhenNone::Deletes: context.remove(path, choice.name); break;
+        case WhenNone::DeletesInOpenKey:
+            if (const OpenedKey key = context.openForWriting(path)) {
+                ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, choice.name));
+            }
+            break;
     }
     return true;
 }
@@ -115,16 +113,18 @@ std::uint32_t numberOf(const DwordChoice& choice, int index) {
                                   : choice.entries[static_cast<std::size_t>(index)].number;
 }
 
-void apply(PageContext& context, int combo, const DwordChoice& choice) {
+void apply(PageContext& context, int combo, const DwordChoice& choice, WriteRound round) {
+    const KeyPath* path = choice.key.writtenIn(round);
     const int index = context.page.comboSelection(combo);
-    if (index >= sizeOf(choice) || (index < 0 && handledWithoutSelection(context, choice))) {
+    if (path == nullptr || index >= sizeOf(choice) ||
+        (index < 0 && handledWithoutSelection(context, choice, *path))) {
         return;
     }
     if (index >= 0 && !choice.entries.empty() && choice.entries[static_cast<std::size_t>(index)].deletes) {
-        context.remove(choice.key, choice.name);
+        context.remove(*path, choice.name);
         return;
     }
-    if (const OpenedKey key = context.openForWriting(choice.key)) {
+    if (const OpenedKey key = context.openForWriting(path)) {
         writeNumber(context.platform.registry, key, choice.name, numberOf(choice, index));
     }
 }
@@ -145,30 +145,26 @@ std::string textOf(const StringChoice& choice, int index) {
                                   : std::string(choice.entries[static_cast<std::size_t>(index)].stored);
 }
 
-void write(PageContext& context, const StringChoice& choice, const KeyPath& path, const std::string& text) {
-    if (const OpenedKey key = context.openForWriting(path)) {
-        writeText(context.platform.registry, key, choice.name, text);
-    }
-}
-
-void apply(PageContext& context, int combo, const StringChoice& choice) {
+void apply(PageContext& context, int combo, const StringChoice& choice, WriteRound round) {
+    const KeyPath* path = choice.key.writtenIn(round);
     const int index = context.page.comboSelection(combo);
-    if (index >= sizeOf(choice) || (index < 0 && handledWithoutSelection(context, choice))) {
+    if (path == nullptr || index >= sizeOf(choice) ||
+        (index < 0 && handledWithoutSelection(context, choice, *path))) {
         return;
     }
-    const std::string text = textOf(choice, index);
-    write(context, choice, choice.key, text);
-    if (choice.also) {
-        write(context, choice, *choice.also, text);
+    if (const OpenedKey key = context.openForWriting(path)) {
+        writeText(context.platform.registry, key, choice.name, textOf(choice, index));
     }
 }
 
 // ---- ChoiceEntries: the row's own routines read and write
 
 void show(PageContext&, int, const ChoiceEntries&) {}
-void apply(PageContext&, int, const ChoiceEntries&) {}
+void apply(PageContext&, int, const ChoiceEntries&, WriteRound) {}
 
 // ---- DwordRowChoice
+
+void show(PageContext&, int, const DwordRowChoice&) {}
 
 void apply(PageContext& context, int list, const DwordRowChoice& choice) {
     const int row = context.page.selectedRow(list);
@@ -178,6 +174,55 @@ void apply(PageContext& context, int list, const DwordRowChoice& choice) {
     if (const OpenedKey key = context.openForWriting(choice.key)) {
         writeNumber(context.platform.registry, key, choice.name, static_cast<std::uint32_t>(row));
     }
+}
+
+// ---- ApplicationRows
+
+bool counts(Registry& registry, const ApplicationRows& rows, const RegistryHandle& application,
+            std::string_view name) {
+    if (rows.counts == ApplicationRows::Counts::NamedExe) {
+        return name.find(".exe") != std::string_view::npos || name.find(".EXE") != std::string_view::npos;
+    }
+    RegistryHandle shell;
+    return application && registry.openKey(application, "shell", shell) == Status::Success;
+}
+
+// Calls visit(application's key, name, row) for each that counts; the key is not open where it may not be opened.
+template <typename Visit>
+void forEachApplication(PageContext& context, const ApplicationRows& rows, Visit visit) {
+    Registry& registry = context.platform.registry;
+    const OpenedKey applications = openKey(registry, Root::ClassesRoot, "Applications");
+    if (!applications) {
+        return;
+    }
+    int row = 0;
+    std::string name;
+    for (std::uint32_t i = 0; registry.enumerateKey(applications.handle(), i, name) == Status::Success; ++i) {
+        RegistryHandle application;
+        ignoreFailure(registry.openKey(applications.handle(), name, application));
+        if (counts(registry, rows, application, name)) {
+            visit(application, name, row++);
+        }
+    }
+}
+
+void show(PageContext& context, int list, const ApplicationRows& rows) {
+    forEachApplication(context, rows, [&](const RegistryHandle& application, const std::string& name, int row) {
+        context.page.insertRow(list, row, name);
+        const bool offered = application && !readValue(context.platform.registry, application, rows.name);
+        context.page.setRowCheck(list, row, offered);
+    });
+}
+
+void apply(PageContext& context, int list, const ApplicationRows& rows) {
+    Registry& registry = context.platform.registry;
+    forEachApplication(context, rows, [&](const RegistryHandle& application, const std::string&, int row) {
+        if (context.page.rowCheck(list, row)) {
+            ignoreFailure(registry.deleteValue(application, {}, rows.name));
+        } else {
+            ignoreFailure(registry.setValue(application, rows.name, ValueType::Sz, {}));
+        }
+    });
 }
 
 }  // namespace
@@ -190,8 +235,12 @@ void showChoice(PageContext& context, int combo, const ChoiceBinding& binding) {
     std::visit([&](const auto& kind) { show(context, combo, kind); }, binding);
 }
 
-void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding) {
-    std::visit([&](const auto& kind) { apply(context, combo, kind); }, binding);
+void applyChoice(PageContext& context, int combo, const ChoiceBinding& binding, WriteRound round) {
+    std::visit([&](const auto& kind) { apply(context, combo, kind, round); }, binding);
+}
+
+void showTable(PageContext& context, int list, const TableBinding& binding) {
+    std::visit([&](const auto& kind) { show(context, list, kind); }, binding);
 }
 
 void applyTable(PageContext& context, int list, const TableBinding& binding) {

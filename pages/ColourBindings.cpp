@@ -10,7 +10,7 @@ namespace {
 unsigned part(std::string_view text) { return static_cast<unsigned>(decimalNumber(text)) % 256; }
 
 void show(PageContext&, int, const Unbound&) {}
-void apply(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&, WriteRound) {}
 
 void show(PageContext& context, int combo, const ColourText& binding) {
     if (const auto value = context.read(binding.key, binding.name)) {
@@ -18,8 +18,8 @@ void show(PageContext& context, int combo, const ColourText& binding) {
     }
 }
 
-void apply(PageContext& context, int combo, const ColourText& binding) {
-    if (const OpenedKey key = context.openForWriting(binding.key)) {
+void apply(PageContext& context, int combo, const ColourText& binding, WriteRound round) {
+    if (const OpenedKey key = context.openForWriting(binding.key.writtenIn(round))) {
         const Colour colour = CColourCombo(context.page, combo).GetSelectedColour();
         writeText(context.platform.registry, key, binding.name, formatColour(colour));
     }
@@ -31,8 +31,8 @@ void show(PageContext& context, int combo, const ColourBinary& binding) {
     }
 }
 
-void apply(PageContext& context, int combo, const ColourBinary& binding) {
-    if (const OpenedKey key = context.openForWriting(binding.key)) {
+void apply(PageContext& context, int combo, const ColourBinary& binding, WriteRound round) {
+    if (const OpenedKey key = context.openForWriting(binding.key.writtenIn(round))) {
         const Colour colour = CColourCombo(context.page, combo).GetSelectedColour();
         const std::array<std::byte, 4> data = {static_cast<std::byte>(colour), static_cast<std::byte>(colour >> 8),
                                                static_cast<std::byte>(colour >> 16), std::byte{0}};
@@ -59,8 +59,8 @@ void showColour(PageContext& context, int combo, const ColourBinding& binding) {
     std::visit([&](const auto& kind) { show(context, combo, kind); }, binding);
 }
 
-void applyColour(PageContext& context, int combo, const ColourBinding& binding) {
-    std::visit([&](const auto& kind) { apply(context, combo, kind); }, binding);
+void applyColour(PageContext& context, int combo, const ColourBinding& binding, WriteRound round) {
+    std::visit([&](const auto& kind) { apply(context, combo, kind, round); }, binding);
 }
 
 }  // namespace korvane

@@ -19,9 +19,11 @@ public:
     virtual bool applySkinElement(DialogControls& dialog, const SkinElement& element) = 0;
     virtual void showSkinFailure() = 0;
     virtual std::uint32_t randomSeed() = 0;
-    virtual int currentItem() = 0;
-    // Lets the user choose a file or a folder, as the current item wants it; the text for the edit box.
-    virtual std::string browse() = 0;
+    // True when the first box of the current item enables and disables its fields.
+    virtual bool boxEnablesFields() = 0;
+    // Lets the user choose what the current item wants beside that browse button; the text for the edit box, empty
+    // after a cancelled dialog.
+    virtual std::string browse(int button) = 0;
 };
 
 class CDialog : public DialogHandler {

@@ -5,7 +5,7 @@ namespace korvane {
 namespace {
 
 void show(PageContext&, int, const Unbound&) {}
-void apply(PageContext&, int, const Unbound&) {}
+void apply(PageContext&, int, const Unbound&, WriteRound) {}
 
 // ---- StringValue
 
@@ -39,30 +39,21 @@ void show(PageContext& context, int edit, const StringValue& binding) {
     context.page.setText(edit, text);
 }
 
-void write(PageContext& context, const StringValue& binding, const KeyPath& path, const std::string& text) {
-    if (text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
-        context.remove(path, binding.name);
-    } else if (const OpenedKey key = context.openForWriting(path)) {
-        writeText(context.platform.registry, key, binding.name, text, binding.type);
-    }
-}
-
-void apply(PageContext& context, int edit, const StringValue& binding) {
+void apply(PageContext& context, int edit, const StringValue& binding, WriteRound round) {
+    const KeyPath* path = binding.key.writtenIn(round);
     std::string text = context.page.text(edit);
     if (binding.withoutQuotes) {
         replaceAll(text, "\"", "");
     }
-    if (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing) {
+    if (path == nullptr || (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing)) {
         return;
     }
     const Fold fold = foldOf(context, binding.folding);
     replaceAll(text, fold.folder, fold.variable);
-    if (!text.empty() || binding.whenEmpty != WhenEmpty::Deletes) {
-        text += binding.suffix;
-    }
-    write(context, binding, binding.key, text);
-    if (binding.also) {
-        write(context, binding, *binding.also, text);
+    if (text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
+        context.remove(*path, binding.name);
+    } else if (const OpenedKey key = context.openForWriting(path)) {
+        writeText(context.platform.registry, key, binding.name, text.append(binding.suffix), binding.type);
     }
 }
 
@@ -74,10 +65,11 @@ void show(PageContext& context, int edit, const DwordNumber& binding) {
     }
 }
 
-void apply(PageContext& context, int edit, const DwordNumber& binding) {
+void apply(PageContext& context, int edit, const DwordNumber& binding, WriteRound round) {
+    const KeyPath* path = binding.key.writtenIn(round);
     const std::string text = context.page.text(edit);
-    if (text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
-        context.remove(binding.key, binding.name);
+    if (path != nullptr && text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
+        context.remove(*path, binding.name);
         return;
     }
     const int number = decimalNumber(text);
@@ -85,7 +77,7 @@ void apply(PageContext& context, int edit, const DwordNumber& binding) {
     if (tooSmall || (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing)) {
         return;
     }
-    if (const OpenedKey key = context.openForWriting(binding.key)) {
+    if (const OpenedKey key = context.openForWriting(path)) {
         writeNumber(context.platform.registry, key, binding.name, static_cast<std::uint32_t>(number));
     }
 }
@@ -106,8 +98,8 @@ void showField(PageContext& context, int edit, const FieldBinding& binding) {
     std::visit([&](const auto& kind) { show(context, edit, kind); }, binding);
 }
 
-void applyField(PageContext& context, int edit, const FieldBinding& binding) {
-    std::visit([&](const auto& kind) { apply(context, edit, kind); }, binding);
+void applyField(PageContext& context, int edit, const FieldBinding& binding, WriteRound round) {
+    std::visit([&](const auto& kind) { apply(context, edit, kind, round); }, binding);
 }
 
 }  // namespace korvane

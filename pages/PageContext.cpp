@@ -33,6 +33,15 @@ std::string PageContext::translatedCell(int list, std::string_view row, int colu
 
 void PageContext::setText(int control, std::string_view text) { page.setText(control, translated(control, text)); }
 
+const CheckBinding& PageContext::bindingOf(const CheckBox& box) const {
+    for (const VersionedBinding& versioned : box.onVersions) {
+        if (versioned.on.contains(version)) {
+            return versioned.binding;
+        }
+    }
+    return box.binding;
+}
+
 OpenedKey PageContext::open(const KeyPath& key) const {
     return openKey(platform.registry, key.root, key.on(version).fullPath());
 }

@@ -8,6 +8,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace korvane {
 
@@ -24,6 +25,11 @@ private:
     int list_ = 0;
 };
 
+struct OverviewRow {
+    std::string name;
+    std::string date;  // on which the tweak was last applied
+};
+
 // The main window's services for its pages.
 class PageHost {
 public:
@@ -37,13 +43,12 @@ public:
     virtual Rect applyButtonRect(Page page) = 0;
     // The item's title, ":", a line feed and its description.
     virtual std::string headerText(int id) = 0;
-    virtual std::string title(int id) = 0;
+    virtual std::vector<OverviewRow> overviewRows(const Tweak& category) = 0;
     // The language file's text for that key of the item's page, or, with kOverviewTexts, for all overviews; without
     // one the given text.
     virtual std::string translated(int id, const std::string& key, std::string_view text) = 0;
-    virtual std::string dateOf(std::string_view title) = 0;
     virtual void stamp() = 0;
-    virtual void alert(int stringId) = 0;
+    virtual void alert(Alert alert) = 0;
     virtual ListColumns& listColumns() = 0;
 };
 
@@ -67,12 +72,15 @@ public:
     std::string translatedEntry(int combo, int index, std::string_view text) const;
     std::string translatedCell(int list, std::string_view row, int column, std::string_view text) const;
     void setText(int control, std::string_view text);  // translated
+    // What the box stands for on the running Windows.
+    const CheckBinding& bindingOf(const CheckBox& box) const;
     // Keys as the running Windows has them.
     OpenedKey open(const KeyPath& key) const;
     std::optional<StoredValue> read(const KeyPath& key, std::string_view name) const;
     void remove(const KeyPath& key, std::string_view name) const;  // by the full path; needs no open key
     // Opens a key for writing, and records the date where the row says that this is the moment.
     OpenedKey openForWriting(const KeyPath& key);
+    OpenedKey openForWriting(const KeyPath* key) { return key == nullptr ? OpenedKey() : openForWriting(*key); }
     void stampBeforeWrite();
 };
 

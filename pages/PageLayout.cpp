@@ -139,4 +139,6 @@ RowControls choiceControls(const Tweak& tweak, std::size_t index) {
     return rowControls(tweak, tweak.fields.size() + (tweak.colour == nullptr ? 0 : 1) + index);
 }
 
+RowControls colourControls() { return {.label = IDC_LABEL1, .combo = IDC_COLOUR_COMBO}; }
+
 }  // namespace korvane

@@ -39,5 +39,33 @@ const PageLayout& layoutOf(Page page);
 int boxControl(const Tweak& tweak, std::size_t index);
 RowControls fieldControls(const Tweak& tweak, std::size_t index);
 RowControls choiceControls(const Tweak& tweak, std::size_t index);
+RowControls colourControls();
+
+// The one of them that holds the setting.
+inline int controlOf(const auto&, int id) { return id; }
+inline int controlOf(const Field&, const RowControls& row) { return row.edit; }
+inline int controlOf(const auto&, const RowControls& row) { return row.combo; }
+
+// Calls visit(control's description, its ids) for each control of the tweak that stands for a setting, in the order in
+// which they are shown, read and, by default, written: a CheckBox with its id, a Field, ColourField or Choice with the
+// RowControls that it takes, a Table with its list's id.
+template <typename Visit>
+void forEachControl(const Tweak& tweak, Visit&& visit) {
+    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
+        visit(tweak.boxes[i], boxControl(tweak, i));
+    }
+    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
+        visit(tweak.fields[i], fieldControls(tweak, i));
+    }
+    if (tweak.colour != nullptr) {
+        visit(*tweak.colour, colourControls());
+    }
+    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
+        visit(tweak.choices[i], choiceControls(tweak, i));
+    }
+    if (tweak.table != nullptr) {
+        visit(*tweak.table, layoutOf(tweak.page).list);
+    }
+}
 
 }  // namespace korvane

@@ -21,9 +21,6 @@ constexpr int kFirstColourChoices = 139;
 
 constexpr int kLastNumber = 10000;
 
-// The logon screen saver's box switches its fields.
-constexpr int kLogonScreenSaver = 159;
-
 }  // namespace
 
 void CPage::DoDataExchange() {
@@ -84,13 +81,13 @@ void CCheckComboPage::OnClicked(int id) {
 void CBrowsePage::OnClicked(int id) {
     for (const RowControls& row : layout().rows) {
         if (row.browse == id) {
-            controls().setText(row.edit, host().browse());
+            controls().setText(row.edit, host().browse(id));
         }
     }
 }
 
 void CCheckFieldsPage::OnClicked(int id) {
-    if (id == IDC_CHECK1 && host().currentItem() == kLogonScreenSaver) {
+    if (id == IDC_CHECK1 && host().boxEnablesFields()) {
         EnableFields(controls().check(IDC_CHECK1) == 1);
     }
     CBrowsePage::OnClicked(id);

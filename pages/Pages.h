@@ -55,7 +55,7 @@ class CCheckFieldsPage : public CBrowsePage {
 public:
     explicit CCheckFieldsPage(DialogHost& host) : CBrowsePage(host, Page::CheckFields) {}
     void OnClicked(int id) override;
-    // Enables or disables what belongs to the logon screen saver.
+    // Enables or disables the first two fields and the first browse button.
     void EnableFields(bool enabled);
 };
 

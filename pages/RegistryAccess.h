@@ -11,10 +11,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace korvane {
+
+// An apply writes the values of all controls under their first keys, and then those that have one under their second.
+enum class WriteRound : std::uint8_t { First, Second };
 
 // A key as a row names it. It is opened; with `created` it is opened at `path` and made below it when a page is
 // applied (never when a page is shown). An empty path stands for the root itself.
@@ -26,6 +30,24 @@ struct KeyPath {
     VersionSet otherOn = {};
     std::string_view otherPath = {};
     std::string_view otherCreated = {};
+    // A second key (borrowed, of static storage) to which an apply writes what it writes here; it is never read.
+    const KeyPath* also = nullptr;
+    bool alsoFirst = false;
+
+    constexpr KeyPath writtenAlsoTo(const KeyPath& second) const {
+        KeyPath key = *this;
+        key.also = &second;
+        return key;
+    }
+    constexpr KeyPath writtenAfter(const KeyPath& first) const {
+        KeyPath key = writtenAlsoTo(first);
+        key.alsoFirst = true;
+        return key;
+    }
+    // The key that an apply writes in that round; null when there is no second one.
+    constexpr const KeyPath* writtenIn(WriteRound round) const {
+        return (round == WriteRound::First) != alsoFirst ? this : also;
+    }
 
     constexpr KeyPath under(Root otherRoot) const {
         KeyPath key = *this;

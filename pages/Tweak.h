@@ -30,17 +30,32 @@ constexpr int kPageCount = static_cast<int>(Page::None);
 
 // The controls of a page, top to bottom. Boxes, and the rows of fields and choices, take their page's controls in that
 // order; a page whose rows offer both a field and a choice gives the first rows to the fields.
+struct VersionedBinding {
+    VersionSet on;
+    CheckBinding binding;
+};
+
 struct CheckBox {
     std::string_view text;
     CheckBinding binding = Unbound{};
     int control = 0;  // another box than the next one
+    // Bound otherwise on some versions of Windows: the first whose set holds the running one counts.
+    std::span<const VersionedBinding> onVersions = {};
+};
+
+// What the "..." button beside a field lets the user choose.
+enum class Picker : std::uint8_t {
+    None,  // no button
+    File,
+    IconFile,
+    Folder,
 };
 
 struct Field {
     std::string_view label;
     FieldBinding binding = Unbound{};
-    bool browse = false;
-    int required = 0;  // the alert that refuses an empty text; 0: an empty text is allowed
+    Picker picker = Picker::None;
+    Alert required = Alert::None;  // refuses an empty text; None: an empty text is allowed
 };
 
 struct Choice {
@@ -66,21 +81,24 @@ struct Table {
 };
 
 // A category's overview: its tweaks with the dates on which they were last applied.
-struct OverviewRow {
-    int id;
-    std::string_view text = {};    // shown instead of the title
-    std::string_view lookUp = {};  // looked up instead of the title
-};
-
 struct Overview {
-    std::span<const OverviewRow> rows;
+    // The ItemIds of its rows where they are not the tweaks right below the category in the tree.
+    std::span<const int> rows = {};
     int nameWidth = 295;  // pixels
     int dateWidth = 99;
+};
+
+// A text that an apply always writes beside what the controls say.
+struct FixedText {
+    KeyPath key;
+    std::string_view name;
+    std::string_view text;
 };
 
 // When an apply records the date, once its gate has passed.
 enum class Stamp : std::uint8_t {
     BeforeOpening,  // first of all, even if the key then cannot be opened or a required field is empty
+    On9xAlone,      // the same, but on Windows 95, 98 and Me only
     WhenOpen,       // each time a key has been opened, just before its write
     ByRoutine,      // when the tweak's own apply routine says so
 };
@@ -96,21 +114,29 @@ struct Tweak {
     int id;
     std::string_view title;
     std::string_view description;
-    int image = kTweakImage;         // index into the tree's images; every category has one of its own
+    bool category = false;           // groups tweaks, and has an image of its own
+    int image = kTweakImage;         // index into the tree's images
     int treeParent = kNoTreeRow;     // the ItemId of the row above
     std::string_view treeText = {};  // the row's text where it differs from the title
+    bool overviewShowsTreeText = false;
     Page page = Page::None;
     std::span<const CheckBox> boxes = {};
     std::span<const Field> fields = {};
     std::span<const Choice> choices = {};
     const ColourField* colour = nullptr;  // takes the first row of its page
     const Table* table = nullptr;
-    const Overview* overview = nullptr;
+    Overview overview = {};  // of a category
     std::string_view note = {};
     Gate gate = kNoGate;
-    bool putBoxesBack = false;  // a refusal inverts the boxes, undoing the user's click
+    bool putBoxesBack = false;       // a refusal inverts the boxes, undoing the user's click
+    bool boxEnablesFields = false;   // the first box enables and disables the first two fields at each click
     Stamp stamp = Stamp::BeforeOpening;
     bool showOnly = false;
+    std::span<const FixedText> writesFirst = {};
+    std::span<const FixedText> writesLast = {};
+    // The controls in the order in which they are written, where that is not the order of this list: all boxes, all
+    // fields, the colour, all choices, the table.
+    std::span<const int> writeOrder = {};
     // Routines of a tweak that fits no kind: the first runs behind the common part of a show, the second in place of
     // the common writes (gate, date and required fields still come first).
     Routine show = nullptr;
@@ -120,9 +146,10 @@ struct Tweak {
     std::string_view registry = {};
     std::string_view source = {};
 
-    constexpr bool isCategory() const { return image != kTweakImage; }
+    constexpr bool isCategory() const { return category; }
     constexpr bool hasShow() const { return page != Page::None; }
-    constexpr bool hasApply() const { return hasShow() && !isCategory() && !showOnly; }
+    constexpr bool hasOverview() const { return category && hasShow(); }
+    constexpr bool hasApply() const { return hasShow() && !category && !showOnly; }
     constexpr std::string_view treeRowText() const { return treeText.empty() ? title : treeText; }
 };
 

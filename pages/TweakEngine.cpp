@@ -1,8 +1,11 @@
-// The one course of showing and applying that all rows share.
+// The show and apply sequences that all rows share.
 #include "pages/TweakEngine.h"
 
 #include "pages/PageLayout.h"
 #include "res/ControlIds.h"
+
+#include <algorithm>
+#include <variant>
 
 namespace korvane {
 namespace {
@@ -20,43 +23,32 @@ void showText(PageContext& context, int control, std::string_view text) {
     context.page.showControl(control, true);
 }
 
-void resetBoxes(PageContext& context) {
-    for (std::size_t i = 0; i < context.tweak.boxes.size(); ++i) {
-        const int control = boxControl(context.tweak, i);
-        showText(context, control, context.tweak.boxes[i].text);
-        context.page.setCheck(control, 0);
-    }
+// ---- the reset state of each control, visible and labelled
+
+void reset(PageContext& context, const CheckBox& box, int control) {
+    showText(context, control, box.text);
+    context.page.setCheck(control, 0);
 }
 
-void resetFields(PageContext& context) {
-    for (std::size_t i = 0; i < context.tweak.fields.size(); ++i) {
-        const Field& field = context.tweak.fields[i];
-        const RowControls row = fieldControls(context.tweak, i);
-        showText(context, row.label, field.label);
-        context.page.showControl(row.edit, true);
-        context.page.setText(row.edit, "");
-        if (field.browse) {
-            context.page.showControl(row.browse, true);
-        }
-    }
-}
-
-void resetChoices(PageContext& context) {
-    for (std::size_t i = 0; i < context.tweak.choices.size(); ++i) {
-        const Choice& choice = context.tweak.choices[i];
-        const RowControls row = choiceControls(context.tweak, i);
-        showText(context, row.label, choice.label);
-        context.page.showControl(row.combo, true);
-        fillChoice(context, row.combo, choice.binding);
+void reset(PageContext& context, const Field& field, const RowControls& row) {
+    showText(context, row.label, field.label);
+    context.page.showControl(row.edit, true);
+    context.page.setText(row.edit, "");
+    if (field.picker != Picker::None) {
+        context.page.showControl(row.browse, true);
     }
 }
 
 // The colour list keeps its row: it has no reset state.
-void resetColour(PageContext& context) {
-    if (context.tweak.colour != nullptr) {
-        showText(context, IDC_LABEL1, context.tweak.colour->label);
-        context.page.showControl(IDC_COLOUR_COMBO, true);
-    }
+void reset(PageContext& context, const ColourField& colour, const RowControls& row) {
+    showText(context, row.label, colour.label);
+    context.page.showControl(row.combo, true);
+}
+
+void reset(PageContext& context, const Choice& choice, const RowControls& row) {
+    showText(context, row.label, choice.label);
+    context.page.showControl(row.combo, true);
+    fillChoice(context, row.combo, choice.binding);
 }
 
 // Empties a list and gives it its columns.
@@ -70,9 +62,7 @@ void startList(PageContext& context, int list, std::span<const TableColumn> colu
     }
 }
 
-void fillTable(PageContext& context) {
-    const Table& table = *context.tweak.table;
-    const int list = layoutOf(context.tweak.page).list;
+void reset(PageContext& context, const Table& table, int list) {
     startList(context, list, table.columns);
     const int columns = static_cast<int>(table.columns.size());
     int cell = 0;
@@ -110,40 +100,71 @@ void showNote(PageContext& context) {
     }
 }
 
-void readControls(PageContext& context) {
-    const Tweak& tweak = context.tweak;
-    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
-        showCheck(context, boxControl(tweak, i), tweak.boxes[i].binding);
-    }
-    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-        showField(context, fieldControls(tweak, i).edit, tweak.fields[i].binding);
-    }
-    if (tweak.colour != nullptr) {
-        showColour(context, IDC_COLOUR_COMBO, tweak.colour->binding);
-    }
-    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
-        showChoice(context, choiceControls(tweak, i).combo, tweak.choices[i].binding);
+// ---- reading and writing, each control by its binding
+
+void read(PageContext& context, const CheckBox& box, int control) {
+    showCheck(context, control, context.bindingOf(box));
+}
+void read(PageContext& context, const Field& field, const RowControls& row) {
+    showField(context, row.edit, field.binding);
+}
+void read(PageContext& context, const ColourField& colour, const RowControls& row) {
+    showColour(context, row.combo, colour.binding);
+}
+void read(PageContext& context, const Choice& choice, const RowControls& row) {
+    showChoice(context, row.combo, choice.binding);
+}
+void read(PageContext& context, const Table& table, int list) { showTable(context, list, table.binding); }
+
+void write(PageContext& context, const CheckBox& box, int control, WriteRound round) {
+    applyCheck(context, control, context.bindingOf(box), round);
+}
+void write(PageContext& context, const Field& field, const RowControls& row, WriteRound round) {
+    applyField(context, row.edit, field.binding, round);
+}
+void write(PageContext& context, const ColourField& colour, const RowControls& row, WriteRound round) {
+    applyColour(context, row.combo, colour.binding, round);
+}
+void write(PageContext& context, const Choice& choice, const RowControls& row, WriteRound round) {
+    applyChoice(context, row.combo, choice.binding, round);
+}
+void write(PageContext& context, const Table& table, int list, WriteRound round) {
+    if (round == WriteRound::First) {
+        applyTable(context, list, table.binding);
     }
 }
 
-void writeControls(PageContext& context) {
-    const Tweak& tweak = context.tweak;
-    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
-        applyCheck(context, boxControl(tweak, i), tweak.boxes[i].binding);
+void writeInOrder(PageContext& context, WriteRound round) {
+    const auto writeAny = [&](const auto& control, const auto& ids) { write(context, control, ids, round); };
+    if (context.tweak.writeOrder.empty()) {
+        forEachControl(context.tweak, writeAny);
+        return;
     }
-    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-        applyField(context, fieldControls(tweak, i).edit, tweak.fields[i].binding);
-    }
-    if (tweak.colour != nullptr) {
-        applyColour(context, IDC_COLOUR_COMBO, tweak.colour->binding);
-    }
-    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
-        applyChoice(context, choiceControls(tweak, i).combo, tweak.choices[i].binding);
-    }
-    if (tweak.table != nullptr) {
-        applyTable(context, layoutOf(tweak.page).list, tweak.table->binding);
+    for (const int wanted : context.tweak.writeOrder) {
+        forEachControl(context.tweak, [&](const auto& control, const auto& ids) {
+            if (controlOf(control, ids) == wanted) {
+                writeAny(control, ids);
+            }
+        });
     }
 }
+
+void writeFixed(PageContext& context, std::span<const FixedText> texts) {
+    for (const FixedText& fixed : texts) {
+        if (const OpenedKey key = context.openForWriting(fixed.key)) {
+            writeText(context.platform.registry, key, fixed.name, fixed.text);
+        }
+    }
+}
+
+// False when all boxes of a tweak are bound to nothing on the running Windows: there is nothing to apply.
+bool boundHere(const PageContext& context) {
+    return std::ranges::all_of(context.tweak.boxes, [&](const CheckBox& box) {
+        return box.onVersions.empty() || !std::holds_alternative<Unbound>(context.bindingOf(box));
+    });
+}
+
+// ---- applying
 
 void refuse(PageContext& context) {
     if (context.tweak.putBoxesBack) {
@@ -158,8 +179,8 @@ void refuse(PageContext& context) {
 // False, after the alert, when a required field is empty.
 bool requiredFieldsFilled(PageContext& context) {
     for (std::size_t i = 0; i < context.tweak.fields.size(); ++i) {
-        const int alert = context.tweak.fields[i].required;
-        if (alert != 0 && context.page.text(fieldControls(context.tweak, i).edit).empty()) {
+        const Alert alert = context.tweak.fields[i].required;
+        if (alert != Alert::None && context.page.text(fieldControls(context.tweak, i).edit).empty()) {
             context.host.alert(alert);
             return false;
         }
@@ -167,23 +188,24 @@ bool requiredFieldsFilled(PageContext& context) {
     return true;
 }
 
+bool stampsFirst(const PageContext& context) {
+    const Stamp stamp = context.tweak.stamp;
+    return stamp == Stamp::BeforeOpening ||
+           (stamp == Stamp::On9xAlone && kWindows9x.contains(context.version));
+}
+
 }  // namespace
 
 void showTweak(PageContext& context) {
+    const Tweak& tweak = context.tweak;
     context.page.show(true);
     context.host.showApplyButton();
     showHeader(context);
-    resetBoxes(context);
-    resetFields(context);
-    resetColour(context);
-    resetChoices(context);
-    if (context.tweak.table != nullptr) {
-        fillTable(context);
-    }
+    forEachControl(tweak, [&](const auto& control, const auto& ids) { reset(context, control, ids); });
     showNote(context);
-    readControls(context);
-    if (context.tweak.show != nullptr) {
-        context.tweak.show(context);
+    forEachControl(tweak, [&](const auto& control, const auto& ids) { read(context, control, ids); });
+    if (tweak.show != nullptr) {
+        tweak.show(context);
     }
 }
 
@@ -192,7 +214,10 @@ void applyTweak(PageContext& context) {
         refuse(context);
         return;
     }
-    if (context.tweak.stamp == Stamp::BeforeOpening) {
+    if (!boundHere(context)) {
+        return;
+    }
+    if (stampsFirst(context)) {
         context.host.stamp();
     }
     if (!requiredFieldsFilled(context)) {
@@ -205,18 +230,24 @@ void applyTweak(PageContext& context) {
     }
 }
 
+void writeControls(PageContext& context) {
+    writeFixed(context, context.tweak.writesFirst);
+    writeInOrder(context, WriteRound::First);
+    writeInOrder(context, WriteRound::Second);
+    writeFixed(context, context.tweak.writesLast);
+}
+
 void showOverview(PageContext& context) {
-    const Overview& overview = *context.tweak.overview;
+    const Overview& overview = context.tweak.overview;
     const TableColumn columns[] = {{"Name", overview.nameWidth}, {"Data Modified", overview.dateWidth}};
     context.page.show(true);
     context.page.showControl(IDC_LIST, true);
     showHeader(context);
     startList(context, IDC_LIST, columns);
     int index = 0;
-    for (const OverviewRow& row : overview.rows) {
-        const std::string title = context.host.title(row.id);
-        context.page.insertRow(IDC_LIST, index, row.text.empty() ? title : row.text);
-        context.page.setCell(IDC_LIST, index, 1, context.host.dateOf(row.lookUp.empty() ? title : row.lookUp));
+    for (const OverviewRow& row : context.host.overviewRows(context.tweak)) {
+        context.page.insertRow(IDC_LIST, index, row.name);
+        context.page.setCell(IDC_LIST, index, 1, row.date);
         ++index;
     }
 }

@@ -1,4 +1,4 @@
-// The common course of every show and apply routine, once for all rows.
+// The show and apply sequences, once for all rows.
 #pragma once
 
 #include "pages/PageContext.h"
@@ -10,6 +10,9 @@ void showTweak(PageContext& context);
 
 // Writes the page back: gate, date, required fields, writes.
 void applyTweak(PageContext& context);
+
+// The common writes of an apply, for routines that do more beside them.
+void writeControls(PageContext& context);
 
 // Fills a category's list of titles and dates.
 void showOverview(PageContext& context);

@@ -76,6 +76,7 @@ public:
     virtual void insertRow(int id, int row, std::string_view text) = 0;
     virtual void setCell(int id, int row, int column, std::string_view text) = 0;
     virtual int rowCount(int id) = 0;
+    virtual std::string rowText(int id, int row) = 0;  // of the first column
     virtual int selectedRow(int id) = 0;  // the first selected row; -1: none
     virtual void setRowCheck(int id, int row, bool checked) = 0;
     virtual bool rowCheck(int id, int row) = 0;

@@ -9,9 +9,7 @@ namespace {
 
 constexpr KeyPath kCommandProcessor{Root::CurrentUser, "Software\\Microsoft\\Command Processor"};
 
-constexpr OverviewRow kOverviewRows[] = {{2}, {5}, {6}, {7}, {8}, {10}, {11}, {12}};
 // Wider dates than other overviews have: meant so.
-constexpr Overview kOverview{.rows = kOverviewRows, .nameWidth = 280, .dateWidth = 115};
 
 // ---- 2: the menu entry's text is the user's, its command line follows the Windows family.
 constexpr CheckBox kPromptHere[] = {
@@ -19,7 +17,7 @@ constexpr CheckBox kPromptHere[] = {
      .binding = ShellVerbKey{.parent = {Root::ClassesRoot, "Directory\\shell"},
                              .verb = "Command",
                              .menuTextEdit = IDC_EDIT1,
-                             .requiredAlert = 2005,
+                             .requiredAlert = Alert::MenuNameMissing,
                              .commandLine = "cmd.exe /k cd %1",
                              .commandLineOn9x = "command.com /k cd %1"}},
 };
@@ -81,17 +79,18 @@ constexpr CheckBox kQuickEdit[] = {
 constexpr Field kAutoRun[] = {
     {.label = "The Command or Program Path:",
      .binding = StringValue{.key = kCommandProcessor, .name = "AutoRun"},
-     .browse = true},
+     .picker = Picker::File},
 };
 
 constexpr Tweak kTweaks[] = {
     {.id = 1,
      .title = "Command Processor",
      .description = "Enhancements for the Command Processor and DOS prompt.",
+     .category = true,
      .image = 1,
      .treeParent = 0,
      .page = Page::Category,
-     .overview = &kOverview},
+     .overview = {.nameWidth = 280, .dateWidth = 115}},
     {.id = 2,
      .title = "Add Command Prompt Option to Every Folder",
      .description =

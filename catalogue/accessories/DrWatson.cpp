@@ -29,35 +29,35 @@ constexpr Field kDebugger[] = {
                             .name = "Debugger",
                             .suffix = " -p %ld -e %ld -g",
                             .suffixStart = " -p %ld -e %ld"},
-     .browse = true,
-     .required = 2006},
+     .picker = Picker::File,
+     .required = Alert::AlternatePathMissing},
 };
 constexpr Field kLogFolder[] = {{.label = "The Log File Directory Path:",
                                  .binding = StringValue{.key = kDrWatson, .name = "LogFilePath"},
-                                 .browse = true,
-                                 .required = 2007}};
+                                 .picker = Picker::File,
+                                 .required = Alert::LogFolderMissing}};
 constexpr Field kDumpFile[] = {{.label = "The Location of the Dump File:",
                                 .binding = ExpandStringValue(kDrWatson, "CrashDumpFile"),
-                                .browse = true,
-                                .required = 2008}};
+                                .picker = Picker::File,
+                                .required = Alert::DumpFileMissing}};
 constexpr Field kInstructions[] = {{.label = "The Number of Instructions To Record:",
                                     .binding = DwordNumber{.key = kDrWatson, .name = "Instructions"},
-                                    .required = 2009}};
+                                    .required = Alert::InstructionCountMissing}};
 constexpr Field kWaveFile[] = {{.label = "The Location of Wave File for Sound Notification:",
                                 .binding = ExpandStringValue(kDrWatson, "WaveFile"),
-                                .browse = true,
-                                .required = 2010}};
+                                .picker = Picker::File,
+                                .required = Alert::WaveFileMissing}};
 
-constexpr OverviewRow kDrWatsonRows[] = {{14}, {15}, {16}, {17}, {18}, {19}, {20}, {21}, {22}, {23}, {24}};
-constexpr Overview kDrWatsonOverview{.rows = kDrWatsonRows};
+constexpr int kDrWatsonRows[] = {14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
 
 constexpr Tweak kTweaks[] = {
     {.id = 13,
      .title = "Dr Watson",
      .description = "Setting for the Dr Watson Diagnostic utility.",
+     .category = true,
      .image = 3,
      .page = Page::Category,
-     .overview = &kDrWatsonOverview},
+     .overview = {.rows = kDrWatsonRows}},
     {.id = 14,
      .title = "Control Symbol Dumping in Dr Watson",
      .description =

@@ -11,19 +11,33 @@ constexpr KeyPath kInstallerMirror{Root::CurrentUser,
                                    "Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy Objects\\LocalMachine",
                                    "Software\\Policies\\Microsoft\\Windows\\Installer"};
 
-extern const CheckBox kInstallerLoggingBox[1];
-extern const Table kInstallerLoggingLetters;
+// The letters only inform: checked always writes all of them but the last two. Clearing removes every mirrored policy of
+// the current user, not only the installer's: meant so.
+constexpr TableColumn kInstallerLoggingColumns[] = {{"Letter", 99}, {"Option", 277}};
+constexpr std::string_view kInstallerLoggingCells[] = {"v", "Verbose output",
+                                       "o", "Out-of-disk-space messages",
+                                       "i", "Status messages",
+                                       "c", "Initial UI parameters",
+                                       "e", "All error messages",
+                                       "w", "Non-fatal warnings",
+                                       "a", "Start up of actions",
+                                       "r", "Action-specific records",
+                                       "m", "Out-of-memory or fatal exit information",
+                                       "u", "User requests",
+                                       "p", "Terminal properties",
+                                       "+", "Append to existing file",
+                                       "!", "Flush each line to the log"};
 
-void showInstallerLogging(PageContext& context);
-void applyInstallerLogging(PageContext& context);
+constexpr Table kInstallerLoggingLetters{.columns = kInstallerLoggingColumns, .cells = kInstallerLoggingCells};
+constexpr CheckBox kInstallerLoggingBox[] = {
+    {.text = "Check it to a Combination of the Letters below to Enable the Logging Options",
+     .binding = MirroredPolicy{.key = kInstallerPolicy,
+                               .mirror = kInstallerMirror,
+                               .name = "Logging",
+                               .text = "voicewarmup",
+                               .deletedTree = "Software"}},
+};
 
-constexpr std::string_view kInstallerLoggingRegistry =
-    "Checked writes `voicewarmup` to `Logging` (REG_SZ) in `HKLM\\Software\\Policies\\Microsoft\\Windows\\Installer` "
-    "(opened) and in the current user's copy of that policy, "
-    "`HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy "
-    "Objects\\LocalMachine\\Software\\Policies\\Microsoft\\Windows\\Installer` (created from `Software` on). Cleared "
-    "deletes the value from the first, and the key `HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy "
-    "Objects\\LocalMachine\\Software` with all below it. The box is shown checked while both have the value.";
 constexpr std::string_view kInstallerLoggingSource = "Windows Installer policy Logging (from general knowledge)";
 
 }  // namespace korvane

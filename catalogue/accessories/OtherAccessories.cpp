@@ -43,8 +43,8 @@ constexpr Field kAudioCd[] = {
                             .name = "",
                             .suffix = "  /play %1",
                             .suffixStart = "  /play %1"},
-     .browse = true,
-     .required = 2012},
+     .picker = Picker::File,
+     .required = Alert::ProgramPathMissing},
 };
 
 constexpr CheckBox kTelnet[] = {
@@ -52,17 +52,15 @@ constexpr CheckBox kTelnet[] = {
      .binding = DwordFlag{.key = {Root::CurrentUser, "Software\\Microsoft", "Telnet"}, .name = "SmoothScroll"}},
 };
 
-constexpr OverviewRow kAccessoriesRows[] = {{43}, {44}, {49}};
-constexpr Overview kAccessoriesOverview{.rows = kAccessoriesRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 0,
      .title = "Accessories",
      .description = "Tweak and Settings for Windows Accessories and Components.",
+     .category = true,
      .image = 0,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kAccessoriesOverview},
+     .page = Page::Category},
     {.id = 43,
      .title = "Disable Task Manager",
      .description =

@@ -7,7 +7,11 @@ namespace korvane {
 namespace {
 
 constexpr Tweak kTweaks[] = {
-    {.id = 25, .title = "Registry Editor", .description = "Settings to manage the Windows Registry Editor", .image = 4},
+    {.id = 25,
+     .title = "Registry Editor",
+     .description = "Settings to manage the Windows Registry Editor",
+     .category = true,
+     .image = 4},
     {.id = 26,
      .title = "Avoid Accidental Registry Imports with Regedit",
      .description =

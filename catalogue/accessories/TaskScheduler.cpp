@@ -28,17 +28,15 @@ constexpr auto kCreation =
     ScopePair("Restrict Task Creation and Deletion (Current User)", "Restrict Task Creation and Deletion (All Users)",
               DwordFlag{.key = kScheduler.madeWhole(), .name = "Task Creation", .alsoName = "Task Deletion"});
 
-constexpr OverviewRow kTaskSchedulerRows[] = {{32}, {33}, {34}, {35}, {36}, {37}};
-constexpr Overview kTaskSchedulerOverview{.rows = kTaskSchedulerRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 30,
      .title = "Task Scheduler",
      .description = "Settings and restrictions for Task Scheduler",
+     .category = true,
      .image = 5,
      .treeParent = 0,
-     .page = Page::Category,
-     .overview = &kTaskSchedulerOverview},
+     .page = Page::Category},
     {.id = 31,
      .title = "Change the Scheduler Log File Settings",
      .description =

@@ -58,16 +58,16 @@ constexpr CheckBox kRemoteAdministration[] = {
      .binding = DwordFlag{.key = kInstallerPolicy, .name = "EnableAdminTSRemote"}},
 };
 
-constexpr OverviewRow kWindowsInstallerRows[] = {{39}, {40}, {41}};
-constexpr Overview kWindowsInstallerOverview{.rows = kWindowsInstallerRows};
+constexpr int kWindowsInstallerRows[] = {39, 40, 41};
 
 constexpr Tweak kTweaks[] = {
     {.id = 38,
      .title = "Windows Installer",
      .description = "Settings to manage Windows Installer",
+     .category = true,
      .image = 6,
      .page = Page::Category,
-     .overview = &kWindowsInstallerOverview},
+     .overview = {.rows = kWindowsInstallerRows}},
     {.id = 39,
      .title = "Disable Windows Installer",
      .description =
@@ -105,9 +105,6 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Category,
      .boxes = kInstallerLoggingBox,
      .table = &kInstallerLoggingLetters,
-     .show = showInstallerLogging,
-     .apply = applyInstallerLogging,
-     .registry = kInstallerLoggingRegistry,
      .source = kInstallerLoggingSource},
     {.id = 42,
      .title = "Allow Uninstall of Windows Components",

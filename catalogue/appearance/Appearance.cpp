@@ -78,8 +78,6 @@ constexpr CheckBox kOpenAndSave[] = {
 constexpr CheckBox kCompressedFiles[] = {{.text = "Show Compressed Files in an Alternate Color.",
                                           .binding = DwordCheckState{.key = kAdvanced, .name = "ShowCompColor"}}};
 
-constexpr OverviewRow kAppearanceRows[] = {{68}, {71}, {72}, {75}, {76}};
-constexpr Overview kAppearanceOverview{.rows = kAppearanceRows};
 
 constexpr std::string_view kAlternateColorSource =
     "Explorer's option to show encrypted or compressed NTFS files in color, and its color values (from general "
@@ -89,10 +87,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 51,
      .title = "Appearance",
      .description = "Windows Appearance and Display Settings.",
+     .category = true,
      .image = 7,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kAppearanceOverview},
+     .page = Page::Category},
     {.id = 68,
      .title = "Change the Color of Active File and Folder Links",
      .description =

@@ -40,15 +40,15 @@ constexpr CheckBox kDragFull[] = {
 };
 
 // Every apply also clears the four low bits of the byte, and writes the profile of the logon desktop: meant so.
+constexpr KeyPath kLoginDesktop{Root::Users, ".DEFAULT\\Control Panel\\Desktop"};
 constexpr CheckBox kCaptionTips[] = {
     {.text = "Remove the Minimize, Maximize and Close Tooltips.",
-     .binding = MaskBit{.key = kDesktop,
+     .binding = MaskBit{.key = kDesktop.writtenAlsoTo(kLoginDesktop),
                         .name = "UserPreferencesMask",
                         .byte = 0,
                         .bit = 0x80,
                         .checkedWhenClear = true,
-                        .kept = 0xF0,
-                        .also = KeyPath{Root::Users, ".DEFAULT\\Control Panel\\Desktop"}}},
+                        .kept = 0xF0}},
 };
 
 constexpr TextEntry kNoYes[] = {{"No", "No"}, {"Yes", "Yes"}};
@@ -63,23 +63,15 @@ constexpr Choice kPersonalizedMenus[] = {
                              .noneText = "No"}},
 };
 
-constexpr OverviewRow kEffectsAndMenusRows[] = {
-    {54},
-    {56},
-    {57},
-    {58, "Remove the Minimize, Maximize and Close Tooltips"},
-};
-// The last row shows the tree's text; its date is looked up under the title, which has no comma.
-constexpr Overview kEffectsAndMenusOverview{.rows = kEffectsAndMenusRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 52,
      .title = "Effects and Menus",
      .description = "Effects and Menus Display Settings",
+     .category = true,
      .image = 8,
      .treeParent = 51,
-     .page = Page::Category,
-     .overview = &kEffectsAndMenusOverview},
+     .page = Page::Category},
     {.id = 53,
      .title = "Change the Alignment of Drop-Down Menus",
      .description =
@@ -129,6 +121,7 @@ constexpr Tweak kTweaks[] = {
          "menus and combo boxes and smooth scrolling of lists are turned off too.",
      .treeParent = 52,
      .treeText = "Remove the Minimize, Maximize and Close Tooltips",
+     .overviewShowsTreeText = true,
      .page = Page::Checks,
      .boxes = kCaptionTips,
      .note = kRestartOrLogOutNote},

@@ -25,9 +25,9 @@ constexpr StringValue recycleBinIcon(std::string_view name) {
     return {.key = kRecycleBin, .name = name, .whenEmpty = WhenEmpty::WritesEmpty, .folding = Folding::WindowsFolder};
 }
 constexpr Field kRecycleBinIcons[] = {
-    {.label = "Default Icon:", .binding = recycleBinIcon(""), .browse = true},
-    {.label = "Empty Icon:", .binding = recycleBinIcon("Empty"), .browse = true},
-    {.label = "Full Icon:", .binding = recycleBinIcon("Full"), .browse = true},
+    {.label = "Default Icon:", .binding = recycleBinIcon(""), .picker = Picker::IconFile},
+    {.label = "Empty Icon:", .binding = recycleBinIcon("Empty"), .picker = Picker::IconFile},
+    {.label = "Full Icon:", .binding = recycleBinIcon("Full"), .picker = Picker::IconFile},
 };
 
 // An empty size is not written: Windows would read it as no size at all.
@@ -69,9 +69,9 @@ void applyFontSmoothing(PageContext& context) {
     const int kOn9x = 1;
     const int kOnNt = 2;
     if (entry == kOn9x && !kWindows9x.contains(context.version)) {
-        context.host.alert(2013);
+        context.host.alert(Alert::SmoothingFor9xOnNt);
     } else if (entry == kOnNt && !kWindowsNT.contains(context.version)) {
-        context.host.alert(2014);
+        context.host.alert(Alert::SmoothingForNtOn9x);
     } else {
         context.host.stamp();
         applyChoice(context, IDC_COMBO1, kFontSmoothing[0].binding);
@@ -83,17 +83,15 @@ constexpr CheckBox kWrapTitles[] = {
      .binding = StringFlag{.key = kMetrics, .name = "IconTitleWrap"}},
 };
 
-constexpr OverviewRow kFontsAndIconsRows[] = {{61}, {62}, {63}, {65}, {66}};
-constexpr Overview kFontsAndIconsOverview{.rows = kFontsAndIconsRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 60,
      .title = "Fonts and Icons",
      .description = "Icon and Font display settings and Enhancements",
+     .category = true,
      .image = 9,
      .treeParent = 51,
-     .page = Page::Category,
-     .overview = &kFontsAndIconsOverview},
+     .page = Page::Category},
     {.id = 61,
      .title = "Automatically View Thumbnails of Bitmap Files",
      .description =

@@ -200,17 +200,15 @@ constexpr CheckBox kVersion[] = {
      .binding = DwordFlag{.key = {Root::CurrentUser, "Control Panel\\Desktop"}, .name = "PaintDesktopVersion"}},
 };
 
-constexpr OverviewRow kDesktopRows[] = {{80}, {82}, {83}, {84}, {85}, {86}, {87}, {89}, {90}, {91}, {92}, {93}, {94}};
-constexpr Overview kDesktopOverview{.rows = kDesktopRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 78,
      .title = "Desktop",
      .description = "Windows Desktop Enhancements",
+     .category = true,
      .image = 10,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kDesktopOverview},
+     .page = Page::Category},
     {.id = 79,
      .title = "Active Window Tracking",
      .description =

@@ -49,10 +49,10 @@ constexpr KeyPath kCurrentVersion{Root::LocalMachine, "SOFTWARE\\Microsoft\\Wind
 constexpr Field kProgramFolders[] = {
     {.label = "Program Directory:",
      .binding = StringValue{.key = kCurrentVersion, .name = "ProgramFilesDir", .whenEmpty = WhenEmpty::WritesNothing},
-     .browse = true},
+     .picker = Picker::Folder},
     {.label = "Common Files Directory:",
      .binding = StringValue{.key = kCurrentVersion, .name = "CommonFilesDir", .whenEmpty = WhenEmpty::WritesNothing},
-     .browse = true},
+     .picker = Picker::Folder},
 };
 
 constexpr TextEntry kCompletionModes[] = {{"Append Text", "Yes"}, {"Show Drop-down List", "No"}};
@@ -114,62 +114,21 @@ constexpr CheckBox kOpenWithBox[] = {
 
 // ---- 119: the n-th application that can be run is the n-th row, when shown and when applied.
 constexpr TableColumn kApplicationColumns[] = {{"Program", 372}};
-constexpr Table kApplications{.columns = kApplicationColumns};
-constexpr std::string_view kNoOpenWith = "NoOpenWith";
+constexpr Table kApplications{
+    .columns = kApplicationColumns,
+    .binding = ApplicationRows{.name = "NoOpenWith", .counts = ApplicationRows::Counts::WithShellSubkey}};
 
-// Calls visit(application's key, name, row) for every application that has a "shell" subkey.
-template <typename Visit>
-void forEachApplication(PageContext& context, Visit visit) {
-    Registry& registry = context.platform.registry;
-    const OpenedKey applications = openKey(registry, Root::ClassesRoot, "Applications");
-    if (!applications) {
-        return;
-    }
-    int row = 0;
-    std::string name;
-    for (std::uint32_t i = 0; registry.enumerateKey(applications.handle(), i, name) == Status::Success; ++i) {
-        RegistryHandle application;
-        RegistryHandle shell;
-        if (registry.openKey(applications.handle(), name, application) == Status::Success &&
-            registry.openKey(application, "shell", shell) == Status::Success) {
-            visit(application, name, row++);
-        }
-    }
-}
-
-void showOpenWithPrograms(PageContext& context) {
-    forEachApplication(context, [&](const RegistryHandle& application, const std::string& name, int row) {
-        context.page.insertRow(IDC_CHECK_LIST, row, name);
-        const bool hidden = readValue(context.platform.registry, application, kNoOpenWith).has_value();
-        context.page.setRowCheck(IDC_CHECK_LIST, row, !hidden);
-    });
-}
-
-void applyOpenWithPrograms(PageContext& context) {
-    Registry& registry = context.platform.registry;
-    forEachApplication(context, [&](const RegistryHandle& application, const std::string&, int row) {
-        if (context.page.rowCheck(IDC_CHECK_LIST, row)) {
-            ignoreFailure(registry.deleteValue(application, {}, kNoOpenWith));
-        } else {
-            ignoreFailure(registry.setValue(application, kNoOpenWith, ValueType::Sz, {}));
-        }
-    });
-}
-
-constexpr OverviewRow kExplorerRows[] = {
-    {103}, {104}, {105}, {107}, {108}, {109}, {110}, {111}, {112}, {113}, {116}, {117}, {118}, {119},
-};
 // Narrower dates than other overviews have: meant so.
-constexpr Overview kExplorerOverview{.rows = kExplorerRows, .dateWidth = 83};
 
 constexpr Tweak kTweaks[] = {
     {.id = 95,
      .title = "Explorer",
      .description = "Windows Explorer Enhancements and Settings",
+     .category = true,
      .image = 11,
      .treeParent = kTreeRoot,
      .page = Page::Category,
-     .overview = &kExplorerOverview},
+     .overview = {.dateWidth = 83}},
     {.id = 103,
      .title = "Add a Menu Option to Move or Copy to a Folder",
      .description =
@@ -325,8 +284,6 @@ constexpr Tweak kTweaks[] = {
      .treeParent = 95,
      .page = Page::CheckList,
      .table = &kApplications,
-     .show = showOpenWithPrograms,
-     .apply = applyOpenWithPrograms,
      .registry = "Lists the subkeys of `HKCR\\Applications` that have a subkey `shell`. A checked row has no value "
                  "`NoOpenWith` there and deletes it; a cleared row writes it, an empty REG_SZ."},
     {.id = 120,

@@ -55,17 +55,15 @@ constexpr Choice kSearchAssistant[] = {
                              .noneText = "no"}},
 };
 
-constexpr OverviewRow kSearchRows[] = {{97}, {99}, {102}};
-constexpr Overview kSearchOverview{.rows = kSearchRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 96,
      .title = "Search",
      .description = "Enhancements for the Windows Explorer Search Features",
+     .category = true,
      .image = 12,
      .treeParent = 95,
-     .page = Page::Category,
-     .overview = &kSearchOverview},
+     .page = Page::Category},
     {.id = 97,
      .title = "Change Default Search Options",
      .description =

@@ -48,17 +48,15 @@ constexpr CheckBox kConnectedFiles[] = {
     {.text = "Disable Connected Web Files and Folders .",
      .binding = DwordCheckState{.key = kFileSystemExplorer, .name = "NoFileFolderConnection"}}};
 
-constexpr OverviewRow kFilesAndShortcutsRows[] = {{126}, {129}, {131}, {133}, {136}};
-constexpr Overview kFilesAndShortcutsOverview{.rows = kFilesAndShortcutsRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 125,
      .title = "Files and Shortcuts",
      .description = "File Name and Shortcut Settings",
+     .category = true,
      .image = 15,
      .treeParent = 122,
-     .page = Page::Category,
-     .overview = &kFilesAndShortcutsOverview},
+     .page = Page::Category},
     {.id = 126,
      .title = "Comprehensive Search for Broken Shortcuts",
      .description =

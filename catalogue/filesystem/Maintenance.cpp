@@ -82,38 +82,34 @@ constexpr Table kDriveList{.columns = kDriveColumns};
 constexpr std::uint32_t kRemovable = 2;
 constexpr std::uint32_t kAllDrives = 0x3FFFFFF;
 
-// What each row of the list last shown stands for. Kept, because a drive that comes or goes while the page is open must
-// not shift the meaning of the rows.
-constinit std::vector<std::uint32_t> shownDriveBits;
+constexpr std::string_view kAllRow = "ALL";
 
-// 0 for what is no drive's root. B: never gets a row, and A: has its row already: meant so.
+// 0 for what is no drive's root. B: never gets a row: meant so.
 std::uint32_t driveBit(std::string_view root) {
-    const bool offered = root.size() == 3 && root[0] >= 'C' && root[0] <= 'Z' && root.substr(1) == ":\\";
-    return offered ? std::uint32_t{1} << (root[0] - 'A') : 0;
+    const bool drive = root.size() == 3 && root[0] >= 'A' && root[0] <= 'Z' && root.substr(1) == ":\\";
+    return drive && root[0] != 'B' ? std::uint32_t{1} << (root[0] - 'A') : 0;
 }
 
 void showDrives(PageContext& context) {
-    const auto addRow = [&](std::string_view text, std::uint32_t bits) {
-        context.page.insertRow(IDC_CHECK_LIST, static_cast<int>(shownDriveBits.size()), text);
-        shownDriveBits.push_back(bits);
-    };
-    shownDriveBits.clear();
-    addRow("A:\\", 1);
+    int row = 0;
+    const auto addRow = [&](std::string_view text) { context.page.insertRow(IDC_CHECK_LIST, row++, text); };
+    addRow("A:\\");
     for (const Drive& drive : context.platform.folders.logicalDrives()) {
-        const std::uint32_t bit = driveBit(drive.root);
-        if (bit != 0 && drive.driveType != kRemovable) {
-            addRow(drive.root, bit);
+        if (driveBit(drive.root) > 1 && drive.driveType != kRemovable) {
+            addRow(drive.root);
         }
     }
-    addRow("ALL", kAllDrives);
+    addRow(kAllRow);
 }
 
-// The rows are added up, not combined: ALL together with a drive overflows into bit 26. Meant so.
+// What a row stands for is its text, so drives that come or go while the page is open do not matter. The rows are added
+// up, not combined: ALL together with a drive overflows into bit 26. Meant so.
 void applyDrives(PageContext& context) {
     std::uint32_t sum = 0;
-    int row = 0;
-    for (const std::uint32_t bits : shownDriveBits) {
-        sum += context.page.rowCheck(IDC_CHECK_LIST, row++) ? bits : 0;
+    for (int row = 0; row < context.page.rowCount(IDC_CHECK_LIST); ++row) {
+        const std::string text = context.page.rowText(IDC_CHECK_LIST, row);
+        const std::uint32_t bits = text == kAllRow ? kAllDrives : driveBit(text);
+        sum += context.page.rowCheck(IDC_CHECK_LIST, row) ? bits : 0;
     }
     if (const OpenedKey key = context.openForWriting(kFileSystemPolicies)) {
         writeNumber(context.platform.registry, key, "NoDriveAutoRun", sum);
@@ -126,29 +122,25 @@ constexpr CheckBox kNameCase[] = {
          DwordCheckState{.key = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"},
                          .name = "DontPrettyPath"}}};
 
-constexpr OverviewRow kFileSystemRows[] = {{142}, {146}, {148}};
-constexpr Overview kFileSystemOverview{.rows = kFileSystemRows};
 
-constexpr OverviewRow kCachingAndMemoryRows[] = {{124}};
-constexpr Overview kCachingAndMemoryOverview{.rows = kCachingAndMemoryRows};
+constexpr int kCachingAndMemoryRows[] = {124};
 
-constexpr OverviewRow kMaintenanceRows[] = {{138}, {140}, {141}};
-constexpr Overview kMaintenanceOverview{.rows = kMaintenanceRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 122,
      .title = "File System",
      .description = "File System and Storage Enhancements",
+     .category = true,
      .image = 13,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kFileSystemOverview},
+     .page = Page::Category},
     {.id = 123,
      .title = "Caching and Memory",
      .description = "File System Caching and Memory Settings",
+     .category = true,
      .image = 14,
      .page = Page::Category,
-     .overview = &kCachingAndMemoryOverview},
+     .overview = {.rows = kCachingAndMemoryRows}},
     {.id = 124,
      .title = "Optimize the System Cache Size",
      .description =
@@ -160,10 +152,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 137,
      .title = "Maintenance",
      .description = "Error Checking and Defragmentation Settings",
+     .category = true,
      .image = 16,
      .treeParent = 122,
-     .page = Page::Category,
-     .overview = &kMaintenanceOverview},
+     .page = Page::Category},
     {.id = 138,
      .title = "Automatic Boot Disk Optimization",
      .description =

@@ -6,7 +6,6 @@
 #include "res/ControlIds.h"
 
 #include <iterator>
-#include <variant>
 
 namespace korvane {
 namespace {
@@ -66,7 +65,7 @@ constexpr CheckBox kLoginSaverBox[] = {{.text = "Enable Login Screen Saver."}};
 constexpr Field kLoginSaverFields[] = {
     {.label = "Screen Saver(.exe):",
      .binding = StringValue{.key = kLoginDesktop, .name = kSaverProgram},
-     .browse = true},
+     .picker = Picker::File},
     {.label = "Screen Saver TimeOut:", .binding = StringValue{.key = kLoginDesktop, .name = "ScreenSaveTimeOut"}}};
 
 void showLoginSaver(PageContext& context) {
@@ -114,33 +113,22 @@ constexpr Choice kLoginWindow[] = {
 // ---- 161: a wallpaper would cover the colour, so it goes, whatever the colour is.
 constexpr std::string_view kWallpaper = "Wallpaper";
 constexpr std::string_view kNone = "(None)";
+constexpr KeyPath kDesktopColours{Root::Users, ".DEFAULT\\Control Panel\\Colors"};
 constexpr ColourField kBackground{.label = "Login Screen Color (RGB):",
-                                  .binding = ColourText{.key = kWinlogon, .name = "Background"}};
-constexpr ColourText kDesktopColour{.key = {Root::Users, ".DEFAULT\\Control Panel\\Colors"}, .name = "Background"};
+                                  .binding = ColourText{.key = kWinlogon.writtenAfter(kDesktopColours), .name = "Background"}};
 
-void applyBackground(PageContext& context) {
-    if (const OpenedKey key = context.openForWriting(kLoginDesktop)) {
-        writeText(context.platform.registry, key, kWallpaper, kNone);
-    }
-    applyColour(context, IDC_COLOUR_COMBO, kDesktopColour);
-    applyColour(context, IDC_COLOUR_COMBO, kBackground.binding);
-}
+constexpr FixedText kNoWallpaper[] = {{kLoginDesktop, kWallpaper, kNone}};
 
 // ---- 162: a pattern would show beside the wallpaper, so it goes each time.
 constexpr Field kWallpaperField[] = {
     {.label = "Default Wallpaper(*.bmp):",
      .binding = StringValue{.key = kLoginDesktop, .name = kWallpaper, .whenEmpty = WhenEmpty::WritesNothing},
-     .browse = true}};
+     .picker = Picker::File}};
 constexpr CheckBox kTileWallpaper[] = {
     {.text = "Tile Wallpaper.", .binding = StringFlag{.key = kLoginDesktop, .name = "TileWallpaper"}}};
 
-void applyWallpaper(PageContext& context) {
-    applyField(context, IDC_EDIT1, kWallpaperField[0].binding);
-    applyCheck(context, IDC_CHECK1, kTileWallpaper[0].binding);
-    if (const OpenedKey key = context.openForWriting(kLoginDesktop)) {
-        writeText(context.platform.registry, key, "Pattern", kNone);
-    }
-}
+constexpr FixedText kNoPattern[] = {{kLoginDesktop, "Pattern", kNone}};
+constexpr int kWallpaperThenTiling[] = {IDC_EDIT1, IDC_CHECK1};
 
 constexpr Field kDialogTitle[] = {
     {.label = "Dialog Title:",
@@ -175,40 +163,17 @@ constexpr CheckBox kShutdown[] = {
 constexpr CheckBox kForceAutoLogin[] = {
     {.text = "Force Auto-Login.", .binding = DwordCheckState{.key = kWinlogon, .name = kForceAutoLogon}}};
 
-// ---- 169: each family of Windows keeps it in another place, and one refuses.
-constexpr CheckBox kLastUserBox[] = {{.text = "Do not display the last username."}};
+// ---- 169: each family of Windows keeps it in another place. One refuses; a Windows that the program does not know is
+// left alone without a word: meant so.
 constexpr std::string_view kDontDisplayLastUser = "DontDisplayLastUserName";
-constexpr int kNotOnWindows95 = 2018;
-
-CheckBinding lastUserBinding(const COsVersion& version) {
-    if (version.IsWinNT4()) {
-        return DwordCheckState{.key = kWinlogon, .name = kDontDisplayLastUser};
-    }
-    if (version.IsWin2000() || version.IsWinXP()) {
-        return DwordCheckState{
-            .key = {Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\System"},
-            .name = kDontDisplayLastUser};
-    }
-    if (version.IsWin98() || version.IsWinMe()) {
-        return StringFlag{.key = {Root::LocalMachine, "Network\\Logon"}, .name = "DontShowLastUser"};
-    }
-    return Unbound{};
-}
-
-void showLastUser(PageContext& context) { showCheck(context, IDC_CHECK1, lastUserBinding(context.version)); }
-
-// A Windows that the program does not know is left alone without a word: meant so.
-void applyLastUser(PageContext& context) {
-    if (context.version.IsWin95()) {
-        context.host.alert(kNotOnWindows95);
-        return;
-    }
-    const CheckBinding binding = lastUserBinding(context.version);
-    if (!std::holds_alternative<Unbound>(binding)) {
-        context.host.stamp();
-        applyCheck(context, IDC_CHECK1, binding);
-    }
-}
+constexpr VersionedBinding kLastUserPlaces[] = {
+    {kWinNT4, DwordCheckState{.key = kWinlogon, .name = kDontDisplayLastUser}},
+    {kWin2000 | kWinXP,
+     DwordCheckState{.key = {Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\System"},
+                     .name = kDontDisplayLastUser}},
+    {kWin98 | kWinMe, StringFlag{.key = {Root::LocalMachine, "Network\\Logon"}, .name = "DontShowLastUser"}},
+};
+constexpr CheckBox kLastUserBox[] = {{.text = "Do not display the last username.", .onVersions = kLastUserPlaces}};
 
 constexpr CheckBox kWelcomeScreen[] = {
     {.text = "Do not display the Welcome Screen .",
@@ -224,6 +189,7 @@ constexpr KeyPath kLegalNoticeKey{.root = Root::LocalMachine,
 constexpr Field kLegalNotice[] = {
     {.label = "Notice Title:", .binding = StringValue{.key = kLegalNoticeKey, .name = "LegalNoticeCaption"}},
     {.label = "Notice Text:", .binding = StringValue{.key = kLegalNoticeKey, .name = "LegalNoticeText"}}};
+constexpr int kTextThenTitle[] = {IDC_EDIT2, IDC_EDIT1};
 
 // ---- 172: a number on Windows XP and a text before it; either is shown as a number.
 constexpr std::string_view kAutoLogonCount = "AutoLogonCount";
@@ -264,19 +230,15 @@ constexpr Choice kAuthentication[] = {
     {.label = "Authentication mode:",
      .binding = DwordChoice{.key = kWinlogon, .name = "ForceUnlockLogon", .entries = kAuthentications, .initial = 0}}};
 
-constexpr OverviewRow kLoginAndAuthenticationRows[] = {
-    {156}, {159}, {160}, {161}, {163}, {164}, {166}, {167}, {169}, {170}, {171}, {173}, {176},
-};
-constexpr Overview kLoginAndAuthenticationOverview{.rows = kLoginAndAuthenticationRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 155,
      .title = "Login and Authentication",
      .description = "Login and Authentication Enhancements",
+     .category = true,
      .image = 17,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kLoginAndAuthenticationOverview},
+     .page = Page::Category},
     {.id = 156,
      .title = "Allow Fast User Switching",
      .description =
@@ -321,6 +283,7 @@ constexpr Tweak kTweaks[] = {
      .boxes = kLoginSaverBox,
      .fields = kLoginSaverFields,
      .gate = kGateNt,
+     .boxEnablesFields = true,
      .show = showLoginSaver,
      .apply = applyLoginSaver,
      .registry = "The box stands for `ScreenSaveActive` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (opened): "
@@ -346,9 +309,7 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .colour = &kBackground,
      .note = kRestartNote,
-     .apply = applyBackground,
-     .registry = "The color is also written to `Background` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Colors`, and "
-                 "`(None)` to `Wallpaper` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (both opened)."},
+     .writesFirst = kNoWallpaper},
     {.id = 162,
      .title = "Change the Login Screen Wallpaper",
      .description =
@@ -359,9 +320,8 @@ constexpr Tweak kTweaks[] = {
      .boxes = kTileWallpaper,
      .fields = kWallpaperField,
      .note = kWallpaperNote,
-     .apply = applyWallpaper,
-     .registry =
-         "Every apply also writes `(None)` to `Pattern` (REG_SZ) in `HKU\\.DEFAULT\\Control Panel\\Desktop` (opened)."},
+     .writesLast = kNoPattern,
+     .writeOrder = kWallpaperThenTiling},
     {.id = 163,
      .title = "Customize the Windows Login and Security Dialog Titles",
      .description =
@@ -431,14 +391,7 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kLastUserBox,
      .note = kNote,
-     .stamp = Stamp::ByRoutine,
-     .show = showLastUser,
-     .apply = applyLastUser,
-     .registry = "Checked writes 1, cleared 0: on Windows NT 4 as `DontDisplayLastUserName` (REG_DWORD) in "
-                 "`HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon`, on Windows 2000 and XP under the "
-                 "same name in `HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\System`, on Windows 98 "
-                 "and Me as `DontShowLastUser` (REG_SZ) in `HKLM\\Network\\Logon` (all opened). Windows 95 is refused, "
-                 "later Windows left alone."},
+     .gate = kGateNot95},
     {.id = 170,
      .title = "Hide the welcome Screen",
      .description =
@@ -458,7 +411,8 @@ constexpr Tweak kTweaks[] = {
      .treeText = "Legal Notice Dialog Box Before login",
      .page = Page::CheckFields,
      .fields = kLegalNotice,
-     .note = kLegalNoticeNote},
+     .note = kLegalNoticeNote,
+     .writeOrder = kTextThenTitle},
     {.id = 172,
      .title = "Limit the Number of Automatic Logins",
      .description =

@@ -49,17 +49,15 @@ constexpr auto kNetworkConnections =
 constexpr auto kPrinters = ScopePair("Show Cascading Printers Folder (Current User).",
                                      "Show Cascading Printers Folder (All Users).", cascading("Start_ShowPrinters"));
 
-constexpr OverviewRow kDocumentsAndFoldersRows[] = {{180}, {181}, {182}, {183}, {184}, {185}};
-constexpr Overview kDocumentsAndFoldersOverview{.rows = kDocumentsAndFoldersRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 178,
      .title = "Documents and Folders",
      .description = "Manage Documents and Folders on the Start Menu",
+     .category = true,
      .image = 19,
      .treeParent = 177,
-     .page = Page::Category,
-     .overview = &kDocumentsAndFoldersOverview},
+     .page = Page::Category},
     {.id = 179,
      .title = "Change the Number of Recent Documents Displayed",
      .description =

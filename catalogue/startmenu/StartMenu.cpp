@@ -20,7 +20,7 @@ constexpr CheckBox kScrolling[] = {{.text = "Enable Start Menu Scrolling (Classi
 constexpr std::string_view kClassicScrolling = "StartMenuScrollPrograms";
 constexpr std::string_view kOrdinaryScrolling = "Start_ScrollPrograms";
 // The alert's text names 98 and Me, which this gate refuses: meant so.
-constexpr Gate kGate2000XpNaming98{kWin2000 | kWinXP, 2015};
+constexpr Gate kGate2000XpNaming98{kWin2000 | kWinXP, Alert::Only98Me2000Xp};
 
 // Calls visit(key) for the Explorer settings of every hive that has them.
 template <typename Visit>
@@ -94,47 +94,9 @@ constexpr auto kFavorites =
 
 // ---- 208: the n-th application by name is the n-th row, when shown and when applied.
 constexpr TableColumn kProgramColumns[] = {{"Program", 372}};
-constexpr Table kPrograms{.columns = kProgramColumns};
-constexpr std::string_view kNoStartPage = "NoStartPage";
-
-// Calls visit(application's key, name, row); the key is not open where it may not be opened. Other letter cases of
-// ".exe" do not count: meant so.
-template <typename Visit>
-void forEachProgram(PageContext& context, Visit visit) {
-    Registry& registry = context.platform.registry;
-    const OpenedKey applications = openKey(registry, Root::ClassesRoot, "Applications");
-    if (!applications) {
-        return;
-    }
-    int row = 0;
-    std::string name;
-    for (std::uint32_t i = 0; registry.enumerateKey(applications.handle(), i, name) == Status::Success; ++i) {
-        if (name.find(".exe") != std::string::npos || name.find(".EXE") != std::string::npos) {
-            RegistryHandle program;
-            ignoreFailure(registry.openKey(applications.handle(), name, program));
-            visit(program, name, row++);
-        }
-    }
-}
-
-void showFrequentPrograms(PageContext& context) {
-    forEachProgram(context, [&](const RegistryHandle& program, const std::string& name, int row) {
-        context.page.insertRow(IDC_CHECK_LIST, row, name);
-        const bool offered = program && !readValue(context.platform.registry, program, kNoStartPage);
-        context.page.setRowCheck(IDC_CHECK_LIST, row, offered);
-    });
-}
-
-void applyFrequentPrograms(PageContext& context) {
-    Registry& registry = context.platform.registry;
-    forEachProgram(context, [&](const RegistryHandle& program, const std::string&, int row) {
-        if (context.page.rowCheck(IDC_CHECK_LIST, row)) {
-            ignoreFailure(registry.deleteValue(program, {}, kNoStartPage));
-        } else {
-            ignoreFailure(registry.setValue(program, kNoStartPage, ValueType::Sz, {}));
-        }
-    });
-}
+constexpr Table kPrograms{
+    .columns = kProgramColumns,
+    .binding = ApplicationRows{.name = "NoStartPage", .counts = ApplicationRows::Counts::NamedExe}};
 
 // ---- 209: without its stored order a menu is sorted.
 constexpr SubkeyFlag menuOrder(std::string_view name) {
@@ -145,6 +107,7 @@ constexpr SubkeyFlag menuOrder(std::string_view name) {
 }
 constexpr CheckBox kSorted[] = {{.text = "Sort Start Menu in Alphabetical Order .", .binding = menuOrder("Start Menu")},
                                 {.text = "Sort Favorites in Alphabetical Order .", .binding = menuOrder("Favorites")}};
+constexpr int kFavoritesFirst[] = {IDC_CHECK2, IDC_CHECK1};
 
 // ---- 210: the colons that are missing are meant so.
 constexpr NumberEntry kFolderModes[] = {{"Hidden", 0}, {"Open when clicked", 1}, {"Expand contents", 2}};
@@ -158,19 +121,15 @@ constexpr Choice kFolders[] = {{.label = "Control Panel Mode:", .binding = folde
                                {.label = "My Pictures Mode", .binding = folderMode("Start_ShowMyPics")},
                                {.label = "Net Connection Mode", .binding = folderMode("Start_ShowNetConn")}};
 
-constexpr OverviewRow kStartMenuAndTaskbarRows[] = {
-    {196}, {197}, {198}, {199}, {200}, {201}, {202}, {206}, {207}, {210},
-};
-constexpr Overview kStartMenuAndTaskbarOverview{.rows = kStartMenuAndTaskbarRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 177,
      .title = "Start Menu and Taskbar",
      .description = "Start Menu and Taskbar Enhancements",
+     .category = true,
      .image = 18,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kStartMenuAndTaskbarOverview},
+     .page = Page::Category},
     {.id = 196,
      .title = "Clear the Cashed Run Commands",  // spelled so on purpose
      .description =
@@ -305,8 +264,6 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckList,
      .table = &kPrograms,
      .gate = kGateXp,
-     .show = showFrequentPrograms,
-     .apply = applyFrequentPrograms,
      .registry = "Lists the subkeys of `HKCR\\Applications` whose names contain `.exe` or `.EXE`. A checked row has no "
                  "value `NoStartPage` there and deletes it; a cleared row writes it, an empty REG_SZ."},
     {.id = 209,
@@ -316,7 +273,8 @@ constexpr Tweak kTweaks[] = {
                     "arrangement made by hand is lost.",
      .page = Page::Checks,
      .boxes = kSorted,
-     .note = "Note:\n\tChanges will take effect after you restart Windows and Internet Explorer."},
+     .note = "Note:\n\tChanges will take effect after you restart Windows and Internet Explorer.",
+     .writeOrder = kFavoritesFirst},
     {.id = 210,
      .title = "View Enhanced Start Menu Folders",
      .description =

@@ -14,7 +14,7 @@ constexpr std::string_view kShellNote =
     "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
 
 // The alert's text names Me, which this gate refuses: meant so.
-constexpr Gate kGate2000XpNamingMe{kWin2000 | kWinXP, 2011};
+constexpr Gate kGate2000XpNamingMe{kWin2000 | kWinXP, Alert::Only2000MeXp};
 
 constexpr DwordCheckState shellPolicy(std::string_view name) { return {.key = kShellPolicies, .name = name}; }
 

@@ -32,7 +32,7 @@ constexpr auto kGrouping =
 constexpr CheckBox kLocked[] = {{.text = "Lock the Size and Position of the Taskbar.",
                                  .binding = DwordFlagInverted(kShellAdvanced, "TaskbarSizeMove")}};
 // The alert's text names Me, which this gate refuses: meant so.
-constexpr Gate kGateXpNamingMe{kWinXP, 2021};
+constexpr Gate kGateXpNamingMe{kWinXP, Alert::OnlyMeXp};
 
 // ---- 195: shown as a number, written as binary data, and in one fixed profile as well, whoever the user is: meant so.
 constexpr CheckBox kBannerBox[] = {
@@ -48,17 +48,15 @@ void applyStartBanner(PageContext& context) {
     }
 }
 
-constexpr OverviewRow kTaskbarRows[] = {{188}, {189}, {191}, {192}, {193}, {194}};
-constexpr Overview kTaskbarOverview{.rows = kTaskbarRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 187,
      .title = "Taskbar",
      .description = "Taskbar Settings and Enhancements",
+     .category = true,
      .image = 20,
      .treeParent = 177,
-     .page = Page::Category,
-     .overview = &kTaskbarOverview},
+     .page = Page::Category},
     {.id = 188,
      .title = "Automatically Hide in Active Tray Icons",  // spelled so on purpose
      .description =

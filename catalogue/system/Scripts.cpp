@@ -60,8 +60,7 @@ constexpr auto kLoginSetting =
 constexpr CheckBox kStartupAtOnce[] = {{.text = "Run the Startup Scripts Asynchronously .",
                                         .binding = DwordFlagInverted(kMachinePolicies, "RunStartupScriptSync")}};
 
-constexpr OverviewRow kScriptsRows[] = {{228}, {229}, {230}, {232}, {231}, {233}, {234}, {235}, {236}, {237}};
-constexpr Overview kScriptsOverview{.rows = kScriptsRows};
+constexpr int kScriptsRows[] = {228, 229, 230, 232, 231, 233, 234, 235, 236, 237};
 
 constexpr std::string_view kHiddenScriptsSource =
     "Group Policy, System, Scripts: Policy CSP ADMX_Scripts; Windows 2000 registry reference (from general knowledge)";
@@ -73,9 +72,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 227,
      .title = "Scripts",
      .description = "Enhancements and Settings for System Scripts",
+     .category = true,
      .image = 23,
      .page = Page::Category,
-     .overview = &kScriptsOverview},
+     .overview = {.rows = kScriptsRows}},
     {.id = 228,
      .title = "Change the Default Action For Script files",
      .description =

@@ -56,18 +56,13 @@ void applyPlugAndPlay(PageContext& context) {
 }
 
 // ---- 244: Windows XP has a key and a value of its own for its time server.
-constexpr CheckBox kTimeServer[] = {{.text = "Enable NTP Time Server ."}};
 constexpr KeyPath kTimeParameters{Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Services\\W32Time\\Parameters"};
-
-CheckBinding timeServerOf(const COsVersion& version) {
-    const KeyPath provider{Root::LocalMachine,
-                           "SYSTEM\\CurrentControlSet\\Services\\W32Time\\TimeProviders\\NtpServer"};
-    return kWinXP.contains(version) ? DwordCheckState{.key = provider, .name = "Enabled"}
-                                    : DwordCheckState{.key = kTimeParameters, .name = "LocalNTP"};
-}
-
-void showTimeServer(PageContext& context) { showCheck(context, IDC_CHECK1, timeServerOf(context.version)); }
-void applyTimeServer(PageContext& context) { applyCheck(context, IDC_CHECK1, timeServerOf(context.version)); }
+constexpr KeyPath kTimeProvider{Root::LocalMachine,
+                                "SYSTEM\\CurrentControlSet\\Services\\W32Time\\TimeProviders\\NtpServer"};
+constexpr VersionedBinding kXpTimeServer[] = {{kWinXP, DwordCheckState{.key = kTimeProvider, .name = "Enabled"}}};
+constexpr CheckBox kTimeServer[] = {{.text = "Enable NTP Time Server .",
+                                     .binding = DwordCheckState{.key = kTimeParameters, .name = "LocalNTP"},
+                                     .onVersions = kXpTimeServer}};
 
 constexpr Field kInterval[] = {
     {.label = "Synchronization Interval in Seconds (604800=7 days):",
@@ -125,16 +120,16 @@ constexpr Choice kTimeChoices[] = {
                              .whenNone = WhenNone::WritesNothing}},
 };
 
-constexpr OverviewRow kServicesRows[] = {{240}, {241}, {242}, {243}, {244}, {245}, {247}, {248}, {249}};
-constexpr Overview kServicesOverview{.rows = kServicesRows};
+constexpr int kServicesRows[] = {240, 241, 242, 243, 244, 245, 247, 248, 249};
 
 constexpr Tweak kTweaks[] = {
     {.id = 239,
      .title = "Services",
      .description = "Windows Service Settings and Enhancements",
+     .category = true,
      .image = 24,
      .page = Page::Category,
-     .overview = &kServicesOverview},
+     .overview = {.rows = kServicesRows}},
     {.id = 240,
      .title = "Disable Distributed Component Object Model (DCOM)",
      .description =
@@ -192,11 +187,6 @@ constexpr Tweak kTweaks[] = {
      .boxes = kTimeServer,
      .note = kSmallRestartOrLogOutNote,
      .gate = kGate2000Xp,
-     .show = showTimeServer,
-     .apply = applyTimeServer,
-     .registry = "Checked writes 1, cleared 0 (REG_DWORD): on Windows XP as `Enabled` in "
-                 "`HKLM\\SYSTEM\\CurrentControlSet\\Services\\W32Time\\TimeProviders\\NtpServer`, on Windows 2000 as "
-                 "`LocalNTP` in `HKLM\\SYSTEM\\CurrentControlSet\\Services\\W32Time\\Parameters` (both opened).",
      .source = "KB 314054 for Windows XP (from general knowledge); KB 223184 for Windows 2000"},
     {.id = 245,
      .title = "Modify the Internet Time Synchronization Schedule",

@@ -18,7 +18,7 @@ constexpr auto kUndock = ScopePair(
 // ---- 213: every other stored time shows as the default, and no selection is written as that.
 constexpr CheckBox kEndTasks[] = {
     {.text = "Automatically end tasks that are not responding.",
-     .binding = StringFlag{.key = kDesktop, .name = "AutoEndTasks", .also = kLoginDesktop}},
+     .binding = StringFlag{.key = kDesktop.writtenAlsoTo(kLoginDesktop), .name = "AutoEndTasks"}},
 };
 constexpr TextEntry kWaitingTimes[] = {
     {"1 second", "1000"},
@@ -33,14 +33,13 @@ constexpr TextEntry kWaitingTimes[] = {
 constexpr int kDefaultTime = 4;
 constexpr Choice kWaitingTime[] = {
     {.label = "Time to wait for response:",
-     .binding = StringChoice{.key = kDesktop,
+     .binding = StringChoice{.key = kDesktop.writtenAlsoTo(kLoginDesktop),
                              .name = "WaitToKillAppTimeout",
                              .entries = kWaitingTimes,
                              .initial = kDefaultTime,
                              .unknown = kDefaultTime,
                              .compare = Compare::AsNumber,
-                             .noneText = kWaitingTimes[kDefaultTime].stored,
-                             .also = kLoginDesktop}},
+                             .noneText = kWaitingTimes[kDefaultTime].stored}},
 };
 
 // The blank before most of the full stops is meant so.
@@ -97,21 +96,19 @@ constexpr CheckBox kAutoexec[] = {{.text = "Enable Reading Environment Variables
 // ---- 225: whatever is typed is written; only an empty text is refused, after the date has been recorded.
 constexpr Field kResponseTime[] = {
     {.label = "Time in milliseconds (1000=1 second):",
-     .binding = StringValue{.key = kDesktop, .name = "HungAppTimeout", .also = kLoginDesktop},
-     .required = 2020},
+     .binding = StringValue{.key = kDesktop.writtenAlsoTo(kLoginDesktop), .name = "HungAppTimeout"},
+     .required = Alert::ResponseTimeMissing},
 };
 
-constexpr OverviewRow kStartUpAndShutdownRows[] = {{213}, {214}, {215}, {219}, {220}, {225}};
-constexpr Overview kStartUpAndShutdownOverview{.rows = kStartUpAndShutdownRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 211,
      .title = "Start up and Shutdown",
      .description = "Enhancements for System Starup Shutdown",  // spelled so on purpose
+     .category = true,
      .image = 21,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kStartUpAndShutdownOverview},
+     .page = Page::Category},
     {.id = 212,
      .title = "Allow Portable to Undock Before Login",
      .description =

@@ -149,8 +149,6 @@ constexpr auto kMemorySpace = ScopePair(
     "\"Run in Separate Memory Space\"is shown in the Run box(All Users).",
     DwordCheckState{.key = kExplorerPolicies.madeWhole(), .name = "MemCheckBoxInRunDlg", .clearedDeletes = true});
 
-constexpr OverviewRow kSystemRows[] = {{262}, {263}, {264}, {267}, {272}};
-constexpr Overview kSystemOverview{.rows = kSystemRows};
 
 constexpr std::string_view kAutomaticUpdatesSource =
     "KB 328010, policies of Automatic Updates (from general knowledge)";
@@ -159,10 +157,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 226,
      .title = "System",
      .description = "Windows System Parameters and Settings",
+     .category = true,
      .image = 22,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kSystemOverview},
+     .page = Page::Category},
     {.id = 256,
      .title = "Automatic Download of COM Components",
      .description =

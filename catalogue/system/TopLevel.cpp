@@ -2,8 +2,6 @@
 // registered owner and the Alt+Tab window. The last number is kept in reserve.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
-#include "pages/PageContext.h"
-#include "res/ControlIds.h"
 
 namespace korvane {
 namespace {
@@ -17,7 +15,7 @@ constexpr Field userFolder(std::string_view label, std::string_view name) {
                                    .whenEmpty = WhenEmpty::WritesNothing,
                                    .type = ValueType::ExpandSz,
                                    .folding = Folding::ProfilePrefix},
-            .browse = true};
+            .picker = Picker::Folder};
 }
 constexpr Field kFolders[] = {userFolder("Cookies:", "Cookies"), userFolder("Desktop:", "Desktop"),
                               userFolder("Favorites:", "Favorites"), userFolder("Internet Cache:", "Cache"),
@@ -28,7 +26,7 @@ constexpr Field kSourcePath[] = {
      .binding = StringValue{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Setup"},
                             .name = "SourcePath",
                             .whenEmpty = WhenEmpty::WritesNothing},
-     .browse = true},
+     .picker = Picker::Folder},
 };
 
 // ---- 308: only Windows 95, 98 and Me record the date: meant so.
@@ -44,14 +42,6 @@ constexpr Field kOwner[] = {
          StringValue{.key = kRegistration, .name = "RegisteredOrganization", .whenEmpty = WhenEmpty::WritesNothing}},
 };
 
-void applyOwner(PageContext& context) {
-    if (kWindows9x.contains(context.version)) {
-        context.host.stamp();
-    }
-    applyField(context, IDC_EDIT1, kOwner[0].binding);
-    applyField(context, IDC_EDIT2, kOwner[1].binding);
-}
-
 // ---- 309: the window is turned on whatever is chosen, and "-1" is written for a combo without a selection: meant so.
 constexpr KeyPath kDesktop{Root::CurrentUser, "Control Panel\\Desktop"};
 constexpr StringChoice coolSwitch(std::string_view name) {
@@ -62,13 +52,7 @@ constexpr Choice kCoolSwitch[] = {
     {.label = "Number of Rows:", .binding = coolSwitch("CoolSwitchRows")},
 };
 
-void applyCoolSwitch(PageContext& context) {
-    if (const OpenedKey key = context.openForWriting(kDesktop)) {
-        writeText(context.platform.registry, key, "CoolSwitch", "1");
-    }
-    applyChoice(context, IDC_COMBO1, kCoolSwitch[0].binding);
-    applyChoice(context, IDC_COMBO2, kCoolSwitch[1].binding);
-}
+constexpr FixedText kTurnedOn[] = {{kDesktop, "CoolSwitch", "1"}};
 
 constexpr Tweak kTweaks[] = {
     {.id = 306,
@@ -98,9 +82,8 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckFields,
      .fields = kOwner,
      .note = kSmallRestartOrLogOutNote,
-     .stamp = Stamp::ByRoutine,
-     .apply = applyOwner,
-     .registry = "Nothing else is written. An apply is dated on Windows 95, 98 and Me only."},
+     .stamp = Stamp::On9xAlone,
+     .registry = "An apply is dated on Windows 95, 98 and Me only."},
     {.id = 309,
      .title = "Configure CoolSwitch Application Swapping",
      .description =
@@ -110,8 +93,7 @@ constexpr Tweak kTweaks[] = {
      .page = Page::CheckCombos,
      .choices = kCoolSwitch,
      .note = kSmallRestartOrLogOutNote,
-     .apply = applyCoolSwitch,
-     .registry = "Every apply also writes `1` to `CoolSwitch` (REG_SZ) in `HKCU\\Control Panel\\Desktop` (opened)."},
+     .writesFirst = kTurnedOn},
     {.id = 310,
      .title = "Reserved",
      .description = "This number is kept free for a later setting and does nothing yet."},

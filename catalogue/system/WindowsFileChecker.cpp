@@ -2,7 +2,7 @@
 // and where their cached copies are kept.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
-#include "pages/PageContext.h"
+#include "pages/TweakEngine.h"
 #include "res/ControlIds.h"
 
 namespace korvane {
@@ -14,14 +14,11 @@ constexpr std::string_view kPolicyName = "Windows File Protection";
 constexpr KeyPath kPolicy{Root::LocalMachine, {}, "SOFTWARE\\Policies\\Microsoft\\Windows NT\\Windows File Protection"};
 constexpr KeyPath kLogon{Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"};
 
-// ---- 253
-constexpr DwordCheckState progressIn(const KeyPath& place) { return {.key = place, .name = "SFCShowProgress"}; }
-constexpr CheckBox kProgress[] = {{.text = "Display SFC Progress Meter .", .binding = progressIn(kPolicy)}};
+constexpr KeyPath kBoth = kPolicy.writtenAlsoTo(kLogon);
 
-void applyProgress(PageContext& context) {
-    applyCheck(context, IDC_CHECK1, progressIn(kPolicy));
-    applyCheck(context, IDC_CHECK1, progressIn(kLogon));
-}
+constexpr CheckBox kProgress[] = {
+    {.text = "Display SFC Progress Meter .", .binding = DwordCheckState{.key = kBoth, .name = "SFCShowProgress"}},
+};
 
 // ---- Removing a value
 
@@ -53,47 +50,44 @@ void removeEverywhere(PageContext& context, std::string_view name) {
 // ---- 254
 constexpr NumberEntry kScanModes[] = {{"Disabled", 0}, {"Scan every boot", 1}, {"Scan once", 2}};
 constexpr std::string_view kScan = "SFCScan";
-constexpr DwordChoice scanIn(const KeyPath& place) {
-    return {.key = place, .name = kScan, .entries = kScanModes, .initial = 0, .whenNone = WhenNone::Deletes};
-}
-constexpr Choice kScanMode[] = {{.label = "SFC scan mode:", .binding = scanIn(kPolicy)}};
+constexpr Choice kScanMode[] = {
+    {.label = "SFC scan mode:",
+     .binding = DwordChoice{.key = kBoth, .name = kScan, .entries = kScanModes, .initial = 0, .whenNone = WhenNone::Deletes}},
+};
 
 void applyScanMode(PageContext& context) {
     if (context.page.comboSelection(IDC_COMBO1) == kNoSelection) {
         removeEverywhere(context, kScan);
-        return;
+    } else {
+        writeControls(context);
     }
-    applyChoice(context, IDC_COMBO1, scanIn(kPolicy));
-    applyChoice(context, IDC_COMBO1, scanIn(kLogon));
 }
 
 // ---- 255: stored as a plain text, although it holds a variable: meant so.
 constexpr std::string_view kCacheFolder = "SFCDllCacheDir";
 constexpr Field kCache[] = {
     {.label = "The Directory to store cached SFC files:",
-     .binding = StringValue{.key = kPolicy, .name = kCacheFolder, .folding = Folding::WindowsFolder, .also = kLogon},
-     .browse = true},
+     .binding = StringValue{.key = kBoth, .name = kCacheFolder, .folding = Folding::WindowsFolder},
+     .picker = Picker::Folder},
 };
 
 void applyCacheFolder(PageContext& context) {
     if (context.page.text(IDC_EDIT1).empty()) {
         removeEverywhere(context, kCacheFolder);
     } else {
-        applyField(context, IDC_EDIT1, kCache[0].binding);
+        writeControls(context);
     }
 }
 
-constexpr OverviewRow kWindowsFileCheckerRows[] = {{253}, {254}, {255}};
-constexpr Overview kWindowsFileCheckerOverview{.rows = kWindowsFileCheckerRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 250,
      .title = "Windows File Checker",
      .description = "Enhancements for the System File Checker",
+     .category = true,
      .image = 25,
      .treeParent = 226,
-     .page = Page::Category,
-     .overview = &kWindowsFileCheckerOverview},
+     .page = Page::Category},
     {.id = 251,
      .title = "Change the Size of the Windows File Protection Cache",
      .description =
@@ -114,10 +108,7 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Checks,
      .boxes = kProgress,
      .note = kSmallRestartOrLogOutNote,
-     .gate = kGate2000Xp,
-     .apply = applyProgress,
-     .registry =
-         "The value is written to `HKLM\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon` (opened) as well."},
+     .gate = kGate2000Xp},
     {.id = 254,
      .title = "Manage Windows File Protection Scans",
      .description =

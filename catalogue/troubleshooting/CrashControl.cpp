@@ -35,21 +35,19 @@ constexpr StringValue dumpPath(std::string_view name) {
             .folding = Folding::WindowsFolder};
 }
 constexpr Field kSmallDumps[] = {
-    {.label = "The small memory dump directory :", .binding = dumpPath("MinidumpDir"), .browse = true}};
+    {.label = "The small memory dump directory :", .binding = dumpPath("MinidumpDir"), .picker = Picker::File}};
 constexpr Field kDumpFile[] = {
-    {.label = "The system crash dump file location:", .binding = dumpPath("DumpFile"), .browse = true}};
+    {.label = "The system crash dump file location:", .binding = dumpPath("DumpFile"), .picker = Picker::File}};
 
-constexpr OverviewRow kCrashControlRows[] = {{275}, {277}, {278}, {279}, {280}};
-constexpr Overview kCrashControlOverview{.rows = kCrashControlRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 274,
      .title = "Crash Control",
      .description = "Settings to manage system errors and restoration",
+     .category = true,
      .image = 27,
      .treeParent = 273,
-     .page = Page::Category,
-     .overview = &kCrashControlOverview},
+     .page = Page::Category},
     {.id = 275,
      .title = "Control the Dump Creation Method",
      .description =

@@ -44,16 +44,16 @@ constexpr CheckBox kDiagnostics[] = {
                           .name = "RunDiagnosticLoggingGlobal"}},
 };
 
-constexpr OverviewRow kLoggingRows[] = {{283}, {284}, {285}, {286}, {287}};
-constexpr Overview kLoggingOverview{.rows = kLoggingRows};
+constexpr int kLoggingRows[] = {283, 284, 285, 286, 287};
 
 constexpr Tweak kTweaks[] = {
     {.id = 281,
      .title = "Logging",
      .description = "Logging and Reporting Enhancements",
+     .category = true,
      .image = 28,
      .page = Page::Category,
-     .overview = &kLoggingOverview},
+     .overview = {.rows = kLoggingRows}},
     {.id = 282,
      .title = "Change the Number of SQL Server Error Logs",
      .description =
@@ -109,9 +109,6 @@ constexpr Tweak kTweaks[] = {
      .page = Page::Category,
      .boxes = kInstallerLoggingBox,
      .table = &kInstallerLoggingLetters,
-     .show = showInstallerLogging,
-     .apply = applyInstallerLogging,
-     .registry = kInstallerLoggingRegistry,
      .source = kInstallerLoggingSource},
 };
 

@@ -42,17 +42,15 @@ void applyShortcutBar(PageContext& context) {
     }
 }
 
-constexpr OverviewRow kRepairRows[] = {{289}, {290}, {292}};
-constexpr Overview kRepairOverview{.rows = kRepairRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 288,
      .title = "Repair",
      .description = "Tweaks and settings to repair Windows components and software",
+     .category = true,
      .image = 29,
      .treeParent = 273,
-     .page = Page::Category,
-     .overview = &kRepairOverview},
+     .page = Page::Category},
     {.id = 289,
      .title = "New Command Missing in Windows Explorer",
      .description =

@@ -13,7 +13,7 @@ constexpr Field kSafeModeBackground[] = {
                      .name = "Wallpaper",
                      .type = ValueType::ExpandSz,
                      .withoutQuotes = true},
-     .browse = true},
+     .picker = Picker::File},
 };
 
 // An empty text stands for no sound.
@@ -23,7 +23,7 @@ constexpr Field kMailSound[] = {
                             .name = "",
                             .whenEmpty = WhenEmpty::WritesEmpty,
                             .withoutQuotes = true},
-     .browse = true},
+     .picker = Picker::File},
 };
 
 // Other bits may be set in the stored number; then the box stays cleared and they are lost: meant so.
@@ -94,17 +94,15 @@ constexpr CheckBox kErrorReporting[] = {
     reporting("Force Queue Mode for Program Errors .", "ForceQueueMode"),
 };
 
-constexpr OverviewRow kTroubleshootingRows[] = {{295}, {296}, {297}, {299}, {300}, {301}, {303}, {305}};
-constexpr Overview kTroubleshootingOverview{.rows = kTroubleshootingRows};
 
 constexpr Tweak kTweaks[] = {
     {.id = 273,
      .title = "Troubleshooting",
      .description = "Tips and Tweaks to Fix System Problems",
+     .category = true,
      .image = 26,
      .treeParent = kTreeRoot,
-     .page = Page::Category,
-     .overview = &kTroubleshootingOverview},
+     .page = Page::Category},
     {.id = 295,
      .title = "Change the Active Desktop Safe Mode Background",
      .description =

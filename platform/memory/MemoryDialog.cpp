@@ -316,6 +316,12 @@ int MemoryDialog::rowCount(int id) {
     return found != nullptr ? static_cast<int>(found->rows.size()) : 0;
 }
 
+std::string MemoryDialog::rowText(int id, int row) {
+    const MemoryControl* found = list(id);
+    const bool there = found != nullptr && row >= 0 && static_cast<std::size_t>(row) < found->rows.size();
+    return there ? found->rows[static_cast<std::size_t>(row)].cells.front() : std::string();
+}
+
 int MemoryDialog::selectedRow(int id) {
     const MemoryControl* found = list(id);
     if (found == nullptr) {

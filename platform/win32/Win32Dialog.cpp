@@ -193,6 +193,15 @@ void Win32Dialog::setCell(int id, int row, int column, std::string_view text) {
 
 int Win32Dialog::rowCount(int id) { return static_cast<int>(send(id, LVM_GETITEMCOUNT, 0, 0)); }
 
+std::string Win32Dialog::rowText(int id, int row) {
+    char text[1024] = "";
+    LVITEMA item{};
+    item.pszText = text;
+    item.cchTextMax = sizeof text;
+    send(id, LVM_GETITEMTEXTA, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    return item.pszText;
+}
+
 int Win32Dialog::selectedRow(int id) {
     const auto fromTheStart = static_cast<WPARAM>(-1);
     return static_cast<int>(send(id, LVM_GETNEXTITEM, fromTheStart, LVNI_SELECTED, -1));

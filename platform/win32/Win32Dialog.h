@@ -52,6 +52,7 @@ public:
     void insertRow(int id, int row, std::string_view text) override;
     void setCell(int id, int row, int column, std::string_view text) override;
     int rowCount(int id) override;
+    std::string rowText(int id, int row) override;
     int selectedRow(int id) override;
     void setRowCheck(int id, int row, bool checked) override;
     bool rowCheck(int id, int row) override;

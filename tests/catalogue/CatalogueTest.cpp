@@ -111,85 +111,100 @@ TEST(Catalogue, BuildsATreeOfCategoriesThatComeBeforeTheirRows) {
 
 // ---- Overviews
 
-TEST(Catalogue, OverviewsListTheTweaksOfTheirCategory) {
+// Overviews of categories without a row, and one whose order is its own, are listed by hand.
+TEST(Catalogue, OverviewsListTweaksAndEachOnce) {
     forEachTweak([](const Tweak& category) {
-        EXPECT_EQ(category.isCategory() && category.hasShow(), category.overview != nullptr);
-        if (category.overview == nullptr) {
-            return;
-        }
+        EXPECT_EQ(category.isCategory(), category.image != kTweakImage);
+        EXPECT_TRUE(category.hasOverview() || category.overview.rows.empty());
         std::set<int> listed;
-        for (const OverviewRow& row : category.overview->rows) {
-            SCOPED_TRACE(row.id);
-            EXPECT_TRUE(listed.insert(row.id).second) << "listed twice";
-            const Tweak* tweak = findTweak(row.id);
-            ASSERT_NE(tweak, nullptr);
-            EXPECT_FALSE(tweak->isCategory());
-            if (category.treeParent != kNoTreeRow) {
-                EXPECT_EQ(tweak->treeParent, category.id) << "a row of another category";
-            }
-            // A date that is looked up under a text that no record has would make the date file anew at every show.
-            EXPECT_TRUE(row.lookUp.empty() || row.lookUp == tweak->title);
+        for (const int id : category.hasOverview() ? overviewItems(category) : std::vector<int>()) {
+            EXPECT_TRUE(listed.insert(id).second) << id << " is listed twice";
+            ASSERT_NE(findTweak(id), nullptr);
+            EXPECT_FALSE(findTweak(id)->isCategory());
         }
-        for (int id = 0; category.treeParent != kNoTreeRow && id < kItemCount; ++id) {
-            const Tweak& tweak = *findTweak(id);
-            if (tweak.treeParent == category.id && !tweak.isCategory()) {
-                EXPECT_TRUE(listed.contains(id)) << "the overview leaves out " << id;
-            }
-        }
+        EXPECT_EQ(category.hasOverview(), !listed.empty());
     });
 }
 
 // ---- Rows that have a page
 
+// Collects the controls that a row uses, and looks at each.
+struct ControlChecks {
+    const Tweak& tweak;
+    std::set<int> used{};
+    std::set<int> settings{};
+
+    void expectControl(int id, ControlKind kind) {
+        EXPECT_TRUE(pageHas(tweak, id, kind)) << "control " << id;
+        EXPECT_TRUE(used.insert(id).second) << "control " << id << " has two meanings";
+    }
+    void operator()(const CheckBox& box, int id) {
+        expectControl(id, ControlKind::CheckBox);
+        EXPECT_TRUE(isControlText(box.text));
+        settings.insert(id);
+    }
+    void operator()(const Field& field, const RowControls& row) {
+        expectLabelled(field.label, row.label, row.edit, ControlKind::Edit);
+        if (field.picker != Picker::None) {
+            expectControl(row.browse, ControlKind::Button);
+        }
+    }
+    void operator()(const Choice& choice, const RowControls& row) {
+        expectLabelled(choice.label, row.label, row.combo, ControlKind::Combo);
+    }
+    void operator()(const ColourField& colour, const RowControls& row) {
+        expectLabelled(colour.label, row.label, row.combo, ControlKind::ColourCombo);
+    }
+    void operator()(const Table&, int list) {
+        EXPECT_NE(list, 0);
+        settings.insert(list);
+    }
+
+private:
+    void expectLabelled(std::string_view text, int label, int control, ControlKind kind) {
+        EXPECT_TRUE(isControlText(text));
+        expectControl(label, ControlKind::Label);
+        expectControl(control, kind);
+        settings.insert(control);
+    }
+};
+
 TEST(Catalogue, PagesHaveTheControlsThatTheirRowsUse) {
     forEachTweak([](const Tweak& tweak) {
-        std::set<int> used;
-        const auto expectControl = [&](int id, ControlKind kind) {
-            EXPECT_TRUE(pageHas(tweak, id, kind)) << "control " << id;
-            EXPECT_TRUE(used.insert(id).second) << "control " << id << " has two meanings";
-        };
-        for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
-            expectControl(boxControl(tweak, i), ControlKind::CheckBox);
-            EXPECT_TRUE(isControlText(tweak.boxes[i].text));
-        }
-        for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-            expectControl(fieldControls(tweak, i).label, ControlKind::Label);
-            expectControl(fieldControls(tweak, i).edit, ControlKind::Edit);
-            if (tweak.fields[i].browse) {
-                expectControl(fieldControls(tweak, i).browse, ControlKind::Button);
-            }
-            EXPECT_TRUE(isControlText(tweak.fields[i].label));
-        }
-        for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
-            expectControl(choiceControls(tweak, i).label, ControlKind::Label);
-            expectControl(choiceControls(tweak, i).combo, ControlKind::Combo);
-            EXPECT_TRUE(isControlText(tweak.choices[i].label));
-        }
-        if (tweak.colour != nullptr) {
-            expectControl(IDC_LABEL1, ControlKind::Label);
-            expectControl(IDC_COLOUR_COMBO, ControlKind::ColourCombo);
+        ControlChecks checks{tweak};
+        if (tweak.hasShow()) {
+            forEachControl(tweak, [&](const auto& control, const auto& ids) { checks(control, ids); });
         }
         if (!tweak.note.empty()) {
-            expectControl(layoutOf(tweak.page).note, ControlKind::Note);
+            checks.expectControl(layoutOf(tweak.page).note, ControlKind::Note);
             EXPECT_TRUE(isControlText(tweak.note));
         }
+        const std::set<int> ordered(tweak.writeOrder.begin(), tweak.writeOrder.end());
+        EXPECT_TRUE(ordered.empty() || ordered == checks.settings) << "the order of writes leaves something out";
+        EXPECT_EQ(ordered.size(), tweak.writeOrder.size()) << "a control is written twice";
     });
 }
 
-TEST(Catalogue, AlertsExist) {
-    const auto expectAlert = [](int id) { EXPECT_TRUE(id == 0 || !builtInString(id).empty()) << "alert " << id; };
+TEST(Catalogue, AlertsHaveATextAndAUse) {
+    std::set<Alert> used = {Alert::SmoothingFor9xOnNt, Alert::SmoothingForNtOn9x};
     forEachTweak([&](const Tweak& tweak) {
-        EXPECT_EQ(tweak.gate.alert == 0, tweak.gate.accepted.empty());
-        EXPECT_FALSE(tweak.putBoxesBack && (tweak.gate.alert == 0 || tweak.boxes.empty())) << "nothing to put back";
-        expectAlert(tweak.gate.alert);
+        EXPECT_EQ(tweak.gate.alert == Alert::None, tweak.gate.accepted.empty() && tweak.gate.refused.empty());
+        EXPECT_FALSE(tweak.putBoxesBack && (tweak.gate.alert == Alert::None || tweak.boxes.empty()))
+            << "nothing to put back";
+        used.insert(tweak.gate.alert);
         for (const Field& field : tweak.fields) {
-            expectAlert(field.required);
+            used.insert(field.required);
         }
         for (const CheckBox& box : tweak.boxes) {
             const auto* verb = std::get_if<ShellVerbKey>(&box.binding);
-            expectAlert(verb != nullptr ? verb->requiredAlert : 0);
+            used.insert(verb != nullptr ? verb->requiredAlert : Alert::None);
         }
     });
+    used.erase(Alert::None);
+    for (const Alert alert : used) {
+        EXPECT_FALSE(builtInString(static_cast<int>(alert)).empty()) << static_cast<int>(alert);
+    }
+    EXPECT_EQ(used.size(), std::size_t{2022 - 2002 + 1}) << "an alert that nothing shows";
 }
 
 // ---- Bindings
@@ -200,6 +215,9 @@ struct BindingChecks {
             EXPECT_TRUE(isPath(path)) << path;
         }
         EXPECT_EQ(key.otherOn.empty(), key.otherPath.empty() && key.otherCreated.empty());
+        if (key.also != nullptr) {
+            expectKey(*key.also);
+        }
     }
 
     // What all kinds have in common.
@@ -211,9 +229,6 @@ struct BindingChecks {
         }
         if constexpr (requires { kind.parent; }) {
             expectKey(kind.parent);
-        }
-        if constexpr (requires { kind.also; }) {
-            expectKey(kind.also.value_or(kind.key));
         }
         if constexpr (requires { kind.twin; }) {
             expectKey(kind.twin.value_or(kind.parent));
@@ -266,21 +281,18 @@ struct BindingChecks {
 
 TEST(Catalogue, BindingsAreWellFormed) {
     forEachTweak([](const Tweak& tweak) {
-        const BindingChecks check;
+        if (tweak.hasShow()) {
+            forEachControl(tweak, [](const auto& control, const auto&) { std::visit(BindingChecks(), control.binding); });
+        }
         for (const CheckBox& box : tweak.boxes) {
-            std::visit(check, box.binding);
+            for (const VersionedBinding& versioned : box.onVersions) {
+                std::visit(BindingChecks(), versioned.binding);
+            }
         }
-        for (const Field& field : tweak.fields) {
-            std::visit(check, field.binding);
-        }
-        for (const Choice& choice : tweak.choices) {
-            std::visit(check, choice.binding);
-        }
-        if (tweak.colour != nullptr) {
-            std::visit(check, tweak.colour->binding);
-        }
-        if (tweak.table != nullptr) {
-            std::visit(check, tweak.table->binding);
+        for (const auto& texts : {tweak.writesFirst, tweak.writesLast}) {
+            for (const FixedText& fixed : texts) {
+                BindingChecks::expectKey(fixed.key);
+            }
         }
     });
 }

@@ -125,7 +125,7 @@ TEST_P(Sweep, ARefusedTweakIsLeftAlone) {
             ASSERT_TRUE(program().apply());
             EXPECT_EQ(dateOf(program(), tweak.title), kFirstDay);
             ASSERT_EQ(program().messages().size(), alerts + 1);
-            EXPECT_EQ(program().messages().back().text, builtInString(tweak.gate.alert));
+            EXPECT_EQ(program().messages().back().text, builtInString(static_cast<int>(tweak.gate.alert)));
             EXPECT_TRUE(tweak.putBoxesBack || pageText(program()) == page);
         });
         EXPECT_EQ(changes(), "");

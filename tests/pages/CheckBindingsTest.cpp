@@ -131,7 +131,8 @@ TEST(CheckBindings, ApplyWhatTheRowSays) {
 
 TEST(CheckBindings, ASecondKeyIsWrittenLikeTheFirstButNotRead) {
     MaskBit mask = kInvertedMask;
-    mask.also = KeyPath{Root::LocalMachine, "", "Second"};
+    constexpr static KeyPath kSecond{Root::LocalMachine, "", "Second"};
+    mask.key = mask.key.writtenAlsoTo(kSecond);
     const std::string second = "\n[HKLM\\Second]\n\"V\"=hex:";
     // Each mask keeps its own other bits.
     OneBox page(mask, stored("hex:80,01,02,03") + second + "7f,00,00,00", Stamp::WhenOpen);

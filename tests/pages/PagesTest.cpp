@@ -19,7 +19,7 @@ namespace {
 class ScriptedHost final : public DialogHost {
 public:
     int refusesAt = -1;  // the number of the skin element that is refused, from 0
-    int item = 1;
+    bool switchesFields = false;
     std::string answer;
 
     std::vector<SkinElement> elements;
@@ -31,8 +31,8 @@ public:
     }
     void showSkinFailure() override { ++failuresShown; }
     std::uint32_t randomSeed() override { return 1; }
-    int currentItem() override { return item; }
-    std::string browse() override { return answer; }
+    bool boxEnablesFields() override { return switchesFields; }
+    std::string browse(int) override { return answer; }
 };
 
 // One page in its own dialog; every control is visible, as if a row used them all.
@@ -113,8 +113,8 @@ TEST(BrowseButtons, EachFillsTheEditBoxToItsLeftAndNoOther) {
 
 TEST(LogonScreenSaver, ItsBoxSwitchesThreeControlsAndNoOtherItemsBoxDoes) {
     OnePage page(Page::CheckFields);
-    const auto enabledAfterClick = [&page](int item, int box) {
-        page.host.item = item;
+    const auto enabledAfterClick = [&page](bool switches, int box) {
+        page.host.switchesFields = switches;
         EXPECT_TRUE(page.dialog.clickCheckBox(box));
         std::string result;
         for (const int id : {IDC_EDIT1, IDC_EDIT2, IDC_BROWSE1, IDC_EDIT3, IDC_BROWSE2, IDC_BROWSE3}) {
@@ -122,12 +122,12 @@ TEST(LogonScreenSaver, ItsBoxSwitchesThreeControlsAndNoOtherItemsBoxDoes) {
         }
         return result;
     };
-    EXPECT_EQ(enabledAfterClick(158, IDC_CHECK1), "111111");
-    EXPECT_EQ(enabledAfterClick(159, IDC_CHECK2), "111111");
-    EXPECT_EQ(enabledAfterClick(159, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(160, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(160, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(159, IDC_CHECK1), "111111");
+    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "111111");
+    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK2), "111111");
+    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK1), "000111");
+    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "000111");
+    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "000111");
+    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK1), "111111");
 }
 
 // ---- The colour list

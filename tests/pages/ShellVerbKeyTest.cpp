@@ -9,7 +9,7 @@ constexpr CheckBox kTypedBox[] = {{.text = "Box",
                                    .binding = ShellVerbKey{.parent = {Root::ClassesRoot, "Thing\\shell"},
                                                            .verb = "Prompt",
                                                            .menuTextEdit = IDC_EDIT1,
-                                                           .requiredAlert = 2005,
+                                                           .requiredAlert = Alert::MenuNameMissing,
                                                            .commandLine = "nt.exe %1",
                                                            .commandLineOn9x = "old.com %1"}}};
 constexpr Field kMenuText[] = {{.label = "Menu text"}};

@@ -20,9 +20,9 @@ constexpr CheckBox kBoxes[] = {
     {.text = "Third"},
 };
 constexpr Field kFields[] = {
-    {.label = "One", .binding = StringValue{kUser, "One"}, .browse = true},
-    {.label = "Two", .binding = StringValue{kUser, "Two"}, .required = 2007},
-    {.label = "Three", .binding = StringValue{kUser, "Three"}, .required = 2008},
+    {.label = "One", .binding = StringValue{kUser, "One"}, .picker = Picker::File},
+    {.label = "Two", .binding = StringValue{kUser, "Two"}, .required = Alert::LogFolderMissing},
+    {.label = "Three", .binding = StringValue{kUser, "Three"}, .required = Alert::DumpFileMissing},
 };
 constexpr NumberEntry kEntries[] = {{"None", 0}, {"Some", 1}};
 constexpr Choice kChoices[] = {
@@ -68,7 +68,7 @@ TEST_F(TweakEngineTest, ARefusingGateAlertsAndDoesNothingElse) {
     // A gate stands before a required field and before the row's own routine.
     Tweak withField = kFieldsBelow;
     withField.gate = kGateXp;
-    withField.apply = [](PageContext& context) { context.host.alert(1); };
+    withField.apply = [](PageContext& context) { context.host.alert(Alert::Only98); };
     show(withField);
     events.clear();
     apply(withField);
@@ -193,20 +193,17 @@ TEST_F(TweakEngineTest, ListsAreBuiltAnewAndColumnsNeverPileUp) {
     constexpr TableColumn kColumns[] = {{"A", 10}, {"B", 20}, {"C", 30}};
     constexpr std::string_view kCells[] = {"x", "y", "z"};
     const Table table{.columns = kColumns, .cells = kCells};
-    constexpr OverviewRow kRows[] = {{11}, {12, "Shown", "Looked up"}, {13}};
-    const Overview overview{.rows = kRows};
     const auto shown = [&](Page page, bool isOverview) {
         show({.id = 20,
               .title = "T",
               .description = "D",
+              .category = isOverview,
               .page = page,
-              .table = isOverview ? nullptr : &table,
-              .overview = isOverview ? &overview : nullptr});
+              .table = isOverview ? nullptr : &table});
         EXPECT_EQ(applyButtonShown, !isOverview);
         return listText(dialog(page), page == Page::Category ? IDC_LIST : IDC_CHECK_LIST);
     };
-    titles[12] = "Twelve";
-    dates = {{"Title 11", "6/15/2005"}, {"Looked up", "1/2/2006"}, {"Twelve", "no"}, {"Shown", "no"}};
+    overview = {{"Title 11", "6/15/2005"}, {"Shown", "1/2/2006"}, {"Title 13", ""}};
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(shown(Page::Category, true),
                   "Name:295 Data Modified:99 |Title 11;6/15/2005;|Shown;1/2/2006;|Title 13;;");

@@ -48,7 +48,7 @@ void PageFixture::show(const Tweak& tweak) {
     applyButtonShown = false;
     const std::string before = state();
     PageContext context(*this, platform_, tweak);
-    if (tweak.overview != nullptr) {
+    if (tweak.hasOverview()) {
         showOverview(context);
     } else {
         showTweak(context);
@@ -80,19 +80,9 @@ Rect PageFixture::applyButtonRect(Page page) {
     return {button.left - area.left, button.top - area.top, button.right - area.left, button.bottom - area.top};
 }
 
-std::string PageFixture::title(int id) {
-    const auto found = titles.find(id);
-    return found != titles.end() ? found->second : "Title " + std::to_string(id);
-}
-
 std::string PageFixture::translated(int, const std::string& key, std::string_view text) {
     const auto found = translations.find(key);
     return found != translations.end() ? found->second : std::string(text);
-}
-
-std::string PageFixture::dateOf(std::string_view title) {
-    const auto found = dates.find(title);
-    return found != dates.end() ? found->second : std::string();
 }
 
 void PageFixture::stamp() {
@@ -100,7 +90,7 @@ void PageFixture::stamp() {
     stamps.push_back({registry.openHandles(), state()});
 }
 
-void PageFixture::alert(int stringId) { events += "alert " + std::to_string(stringId) + ' '; }
+void PageFixture::alert(Alert alert) { events += "alert " + std::to_string(static_cast<int>(alert)) + ' '; }
 
 std::string stateOf(std::string_view blocks) {
     MemoryRegistry registry;

@@ -53,21 +53,19 @@ public:
     std::vector<StampRecord> stamps;
     bool applyButtonShown = false;  // by the last show
 
-    // Answers; a missing title is "Title 7", a missing date or translation leaves what is there.
-    std::map<int, std::string> titles;
-    std::map<std::string, std::string, std::less<>> dates;
+    // Answers; a missing translation leaves what is there.
+    std::vector<OverviewRow> overview;
     std::map<std::string, std::string, std::less<>> translations;  // by key
 
     bool hasPage(Page) override { return true; }
     DialogControls& page(Page page) override { return dialog(page); }
     void showApplyButton() override { applyButtonShown = true; }
     Rect applyButtonRect(Page page) override;
-    std::string headerText(int id) override { return title(id) + ":\nDescription"; }
-    std::string title(int id) override;
+    std::string headerText(int id) override { return "Title " + std::to_string(id) + ":\nDescription"; }
     std::string translated(int id, const std::string& key, std::string_view text) override;
-    std::string dateOf(std::string_view title) override;
+    std::vector<OverviewRow> overviewRows(const Tweak&) override { return overview; }
     void stamp() override;
-    void alert(int stringId) override;
+    void alert(Alert alert) override;
     ListColumns& listColumns() override { return listColumns_; }
 
 private:
