@@ -165,7 +165,8 @@ constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view nam
     return {.key = key, .name = name, .whenEmpty = whenEmpty, .type = ValueType::ExpandSz};
 }
 
-// A number shown and typed in decimal; a text without leading digits is 0.
+// A number shown and typed in decimal; a text without leading digits is 0. Where an empty text deletes the value, its key
+// is opened first.
 struct DwordNumber {
     KeyPath key;
     std::string_view name;

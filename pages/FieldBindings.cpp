@@ -66,18 +66,20 @@ void show(PageContext& context, int edit, const DwordNumber& binding) {
 }
 
 void apply(PageContext& context, int edit, const DwordNumber& binding, WriteRound round) {
-    const KeyPath* path = binding.key.writtenIn(round);
     const std::string text = context.page.text(edit);
-    if (path != nullptr && text.empty() && binding.whenEmpty == WhenEmpty::Deletes) {
-        context.remove(*path, binding.name);
-        return;
-    }
+    const bool deletes = text.empty() && binding.whenEmpty == WhenEmpty::Deletes;
     const int number = decimalNumber(text);
-    const bool tooSmall = binding.minimum && number < *binding.minimum;
+    const bool tooSmall = !deletes && binding.minimum && number < *binding.minimum;
     if (tooSmall || (text.empty() && binding.whenEmpty == WhenEmpty::WritesNothing)) {
         return;
     }
-    if (const OpenedKey key = context.openForWriting(path)) {
+    const OpenedKey key = context.openForWriting(binding.key.writtenIn(round));
+    if (!key) {
+        return;
+    }
+    if (deletes) {
+        ignoreFailure(context.platform.registry.deleteValue(key.handle(), {}, binding.name));
+    } else {
         writeNumber(context.platform.registry, key, binding.name, static_cast<std::uint32_t>(number));
     }
 }
