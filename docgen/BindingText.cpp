@@ -1,108 +1,17 @@
-// One function for each binding kind, side by side as in the engine.
+// One function for each binding kind, in the order of pages/Bindings.h.
 #include "docgen/BindingText.h"
 
 #include <algorithm>
-#include <charconv>
+#include <iterator>
+
 
 namespace korvane {
 namespace {
 
-std::string_view shortName(Root root) {
-    switch (root) {
-        case Root::ClassesRoot: return "HKCR";
-        case Root::CurrentUser: return "HKCU";
-        case Root::LocalMachine: return "HKLM";
-        case Root::Users: return "HKU";
-    }
-    return {};
-}
-
-std::string_view typeName(ValueType type) {
-    switch (type) {
-        case ValueType::Sz: return "REG_SZ";
-        case ValueType::ExpandSz: return "REG_EXPAND_SZ";
-        case ValueType::Binary: return "REG_BINARY";
-        case ValueType::Dword: return "REG_DWORD";
-        default: return {};
-    }
-}
-
-std::string below(std::string_view key, std::string_view path) {
-    std::string result(key);
-    if (!path.empty()) {
-        result.append("\\").append(path);
-    }
-    return result;
-}
-
-// Large numbers are masks, codes and the -1 of "nothing": their digits say more in hexadecimal.
-std::string numberText(std::uint32_t number) {
-    constexpr std::uint32_t kFirstHexadecimal = 0x10000;
-    const bool hexadecimal = number >= kFirstHexadecimal;
-    char digits[12];
-    char* const end = std::to_chars(digits, digits + sizeof digits, number, hexadecimal ? 16 : 10).ptr;
-    std::transform(digits, end, digits, [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return (hexadecimal ? "0x" : "") + std::string(digits, end);
-}
-
-std::string byteText(std::span<const std::byte> data) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string result;
-    for (const std::byte byte : data) {
-        result += result.empty() ? "" : " ";
-        result += kDigits[std::to_integer<std::size_t>(byte >> 4)];
-        result += kDigits[std::to_integer<std::size_t>(byte & std::byte{15})];
-    }
-    return result;
-}
-
-// ---- pieces
-
-// A line that grows: words, and literal parts between them.
-struct Line {
-    TextLine pieces;
-
-    Line& words(std::string_view text) { return add(text, false); }
-    Line& literal(std::string_view text) { return text.empty() ? words("an empty text") : add(text, true); }
-    // The effects of a control's states stand in one line.
-    Line& state(std::string_view name) { return words(pieces.empty() ? "" : "; ").words(name).words(": "); }
-    Line& state(std::string_view name, std::string_view data) { return state(name).literal(data); }
-
-private:
-    Line& add(std::string_view text, bool literal) {
-        if (!text.empty()) {
-            pieces.push_back({std::string(text), literal});
-        }
-        return *this;
-    }
-};
-
 constexpr std::string_view kDeletesValue = "the value is deleted";
 constexpr std::string_view kNothing = "nothing is written";
-
-// "HKCU\Console", and whether an apply makes it.
-void addKey(Line& line, Root root, std::string_view path, std::string_view created) {
-    const std::string existing = below(shortName(root), path);
-    line.literal(below(existing, created));
-    if (created.empty()) {
-        line.words(", opened");
-    } else if (path.empty()) {
-        line.words(", created");
-    } else {
-        line.words(", created below ").literal(existing);
-    }
-}
-
-void addValue(Line& line, std::string_view name, std::string_view alsoName) {
-    if (name.empty()) {
-        line.words("default value");
-    } else {
-        line.literal(name);
-    }
-    if (!alsoName.empty()) {
-        line.words(" and ").literal(alsoName);
-    }
-}
+// What a control shows without a value is told where it is not the usual empty state.
+constexpr std::string_view kWhenMissing = "shown when missing";
 
 void addKeys(BindingText& text, Line line, const KeyPath& key) {
     addKey(line, key.root, key.path, key.created);
@@ -115,7 +24,8 @@ void addKeys(BindingText& text, Line line, const KeyPath& key) {
     }
 }
 
-// Where a kind keeps its value: in its key, on some versions of Windows elsewhere, and perhaps in a second key too.
+// Where a kind keeps its value: in its key, on some versions of Windows elsewhere, and perhaps in a second key, which
+// is never shown.
 template <typename Kind>
 BindingText placesOf(const Kind& kind, ValueType type) {
     Line first;
@@ -129,7 +39,7 @@ BindingText placesOf(const Kind& kind, ValueType type) {
     addKeys(text, first, kind.key);
     if (kind.key.also != nullptr) {
         Line also;
-        also.words(kind.key.alsoFirst ? "and before that in " : "and in ");
+        also.words(kind.key.alsoFirst ? "written also, and before that, in " : "written also in ");
         addKeys(text, also, *kind.key.also);
     }
     return text;
@@ -191,24 +101,29 @@ BindingText describeKind(const SubkeyFlag& flag) {
     }
     line.state(flag.checkedWhenAbsent ? "checked" : "cleared");
     line.words(flag.deletesTree ? "the key is deleted with all below it" : "the key is deleted unless it has subkeys");
+    if (flag.checkedWhenAbsent) {
+        line.state(kWhenMissing).words("checked");
+    }
     text.effects.push_back(line.pieces);
     return text;
 }
 
 BindingText describeKind(const MaskBit& mask) {
     BindingText text = placesOf(mask, ValueType::Binary);
-    const auto bit = static_cast<std::byte>(mask.bit);
     Line line;
-    line.words("bit ").literal(byteText({&bit, 1})).words(" of byte ").literal(numberText(mask.byte));
-    line.words(" of four").state("checked").words(mask.checkedWhenClear ? "0" : "1");
+    line.words("bit ").literal(maskText(mask.bit)).words(" of byte " + std::to_string(mask.byte) + " of four");
+    line.state("checked").words(mask.checkedWhenClear ? "0" : "1");
     line.state("cleared").words(mask.checkedWhenClear ? "1" : "0");
     if (mask.kept != 0xFF) {
-        const auto lost = static_cast<std::byte>(~mask.kept & 0xFF);
-        line.words("; the bits ").literal(byteText({&lost, 1})).words(" of that byte always become 0");
+        line.words("; every apply clears the bits ").literal(maskText(static_cast<std::uint8_t>(~mask.kept)));
+        line.words(" of that byte");
     }
-    if (mask.whenMissing != 0) {
-        line.words("; without the value ").literal(numberText(mask.whenMissing)).words(" counts");
+    std::byte missing[4];
+    for (unsigned i = 0; i < std::size(missing); ++i) {
+        missing[i] = static_cast<std::byte>(mask.whenMissing >> (8 * i));
     }
+    line.words("; when missing, applied to ").literal(byteText(missing));
+    line.state(kWhenMissing).words(mask.checkedWhenMissing ? "checked" : "cleared");
     text.effects.push_back(line.pieces);
     return text;
 }
@@ -223,7 +138,8 @@ BindingText describeKind(const ShellVerbKey& verb) {
     verb.menuTextEdit != 0 ? checked.words("the text of the field") : checked.literal(verb.menuText);
     checked.words(", that of its subkey ").literal("command").words(" is ").literal(verb.commandLine);
     if (!verb.commandLineOn9x.empty()) {
-        checked.words(" (on " + windowsVersions(kWindows9x) + " ").literal(verb.commandLineOn9x).words(")");
+        checked.words(" (on " + windowsVersions(kWindows9x) + " ").literal(verb.commandLineOn9x);
+        checked.words("; on Windows Vista and later the same text as the default value above)");
     }
     text.effects.push_back(checked.pieces);
     Line cleared;
@@ -263,6 +179,10 @@ std::string_view emptyText(WhenEmpty whenEmpty, bool required, std::string_view 
     return {};
 }
 
+void addFolding(Line& line, std::string_view folder, std::string_view variable) {
+    line.words(", in which ").words(folder).words(" is stored as ").literal(variable).words(" and shown as its path");
+}
+
 BindingText describeField(const Unbound&, bool) { return {}; }
 
 BindingText describeField(const StringValue& value, bool required) {
@@ -276,9 +196,9 @@ BindingText describeField(const StringValue& value, bool required) {
         line.words(" without double quotation marks");
     }
     if (value.folding == Folding::WindowsFolder) {
-        line.words(", the Windows folder in it as ").literal("%SystemRoot%");
+        addFolding(line, "the Windows folder", "%SystemRoot%");
     } else if (value.folding == Folding::ProfilePrefix) {
-        line.words(", the user's profile folder in it as ").literal("%USERPROFILE%");
+        addFolding(line, "the user's profile folder", "%USERPROFILE%");
     }
     line.state("empty").words(emptyText(value.whenEmpty, required, "an empty text"));
     text.effects.push_back(line.pieces);
@@ -303,6 +223,29 @@ std::string dataOf(const TextEntry& entry) { return std::string(entry.stored); }
 std::string noneData(const DwordChoice& choice) { return numberText(choice.noneNumber); }
 std::string noneData(const StringChoice& choice) { return std::string(choice.noneText); }
 
+// The text of an entry; empty for "none".
+template <typename Choice>
+std::string entryAt(const Choice& choice, int index) {
+    if (index == kNoSelection) {
+        return {};
+    }
+    return choice.entries.empty() ? std::to_string(choice.range.first + index)
+                                  : std::string(choice.entries[static_cast<std::size_t>(index)].text);
+}
+
+// The entries that stand for no value and for data that no entry has.
+template <typename Choice>
+void addUnusualEntries(Line& line, const Choice& choice) {
+    const std::string missing = entryAt(choice, choice.initial);
+    const std::string unknown = entryAt(choice, choice.unknown);
+    if (!missing.empty()) {
+        line.state(missing == unknown ? "shown when missing or unknown" : kWhenMissing).words(missing);
+    }
+    if (!unknown.empty() && missing != unknown) {
+        line.state("shown when unknown").words(unknown);
+    }
+}
+
 template <typename Choice>
 BindingText describeChoice(const Choice& choice, ValueType type) {
     BindingText text = placesOf(choice, type);
@@ -326,6 +269,7 @@ BindingText describeChoice(const Choice& choice, ValueType type) {
         case WhenNone::Deletes:
         case WhenNone::DeletesInOpenKey: line.words(kDeletesValue); break;
     }
+    addUnusualEntries(line, choice);
     text.effects.push_back(line.pieces);
     return text;
 }
@@ -344,15 +288,21 @@ BindingText describeKind(const ChoiceEntries& choice) {
 
 // ---- the colour list
 
+void addColourForms(BindingText& text, std::string_view form) {
+    text.effects.push_back({{std::string(form)}});
+    text.effects.push_back({{"shown when missing, or not the color of an entry: the entry last shown, at first a random "
+                             "one"}});
+}
+
 BindingText describeKind(const ColourText& colour) {
     BindingText text = placesOf(colour, ValueType::Sz);
-    text.effects.push_back({{"red, green and blue as decimal numbers with blanks between them"}});
+    addColourForms(text, "red, green and blue as decimal numbers with blanks between them");
     return text;
 }
 
 BindingText describeKind(const ColourBinary& colour) {
     BindingText text = placesOf(colour, ValueType::Binary);
-    text.effects.push_back({{"four bytes: red, green, blue, 0"}});
+    addColourForms(text, "four bytes: red, green, blue, 0");
     return text;
 }
 
@@ -369,7 +319,7 @@ BindingText describeRows(const DwordRowChoice& choice, const Table& table) {
         }
         line.state(name + '"', numberText(static_cast<std::uint32_t>(row)));
     }
-    line.state("no row selected").words(kNothing);
+    line.state("no row selected").words(kNothing).words("; the stored number is not shown");
     text.effects.push_back(line.pieces);
     return text;
 }
@@ -380,6 +330,18 @@ BindingText describeBinding(const Binding& binding) {
 }
 
 }  // namespace
+
+BindingText unlessTold(const Tweak& tweak, BindingText binding) {
+    if (binding.places.empty()) {
+        return binding;
+    }
+    const auto isNamed = [&](const TextPiece& piece) {
+        return piece.literal && tweak.registry.find('`' + piece.text + '`') != std::string_view::npos;
+    };
+    const TextLine& place = binding.places.front();
+    const auto end = std::ranges::find_if(place, [](const TextPiece& piece) { return piece.text.ends_with(" in "); });
+    return std::any_of(place.begin(), end, isNamed) ? BindingText() : binding;
+}
 
 BindingText describe(const CheckBox& box) {
     BindingText text = describeBinding(box.binding);
@@ -420,41 +382,6 @@ BindingText describe(const ColourField& colour) { return describeBinding(colour.
 BindingText describe(const Table& table) {
     const auto* rows = std::get_if<DwordRowChoice>(&table.binding);
     return rows == nullptr ? BindingText() : describeRows(*rows, table);  // what else is listed, the row's text tells
-}
-
-TextLine markedText(std::string_view text) {
-    Line line;
-    bool literal = false;
-    for (std::size_t start = 0; start <= text.size(); literal = !literal) {
-        const std::size_t end = std::min(text.find('`', start), text.size());
-        const std::string_view part = text.substr(start, end - start);
-        literal ? line.literal(part) : line.words(part);
-        start = end + 1;
-    }
-    return line.pieces;
-}
-
-std::string windowsVersions(VersionSet versions) {
-    struct Named {
-        VersionSet version;
-        std::string_view name;
-    };
-    constexpr Named kVersions[] = {{kWin95, "95"},    {kWin98, "98"},     {kWinMe, "Me"},
-                                   {kWinNT4, "NT 4"}, {kWin2000, "2000"}, {kWinXP, "XP"}};
-    std::string text;
-    for (const Named& named : kVersions) {
-        if ((versions | named.version) == versions) {
-            text.append(text.empty() ? "Windows " : ", ").append(named.name);
-        }
-    }
-    return text;
-}
-
-std::string acceptedBy(const Gate& gate) {
-    if (!gate.refused.empty()) {
-        return "Every Windows but " + windowsVersions(gate.refused).substr(std::string_view("Windows ").size());
-    }
-    return gate.accepted.empty() ? "Every Windows" : windowsVersions(gate.accepted);
 }
 
 }  // namespace korvane

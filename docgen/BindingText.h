@@ -1,27 +1,18 @@
 // What the controls of a page stand for, told to a reader: the keys and values,
-// and what each state of a control writes. Plain text in pieces, so that every
-// document can mark keys, names and data in its own way.
+// what each state of a control writes, and what is shown when there is no value.
 #pragma once
 
+#include "docgen/TextLine.h"
 #include "pages/Tweak.h"
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace korvane {
 
-struct TextPiece {
-    std::string text;
-    bool literal = false;  // a key, a value's name or data: to be read letter by letter
-};
-
-using TextLine = std::vector<TextPiece>;
-
-// Both empty for a control that the tweak's own routines look after.
+// Both empty for a control that the tweak's own routines handle.
 struct BindingText {
     std::vector<TextLine> places;
-    std::vector<TextLine> effects;  // what the states of the control write there
+    std::vector<TextLine> effects;  // what the states of the control write there, and unusual ways of showing it
 };
 
 BindingText describe(const CheckBox& box);
@@ -31,13 +22,8 @@ BindingText describe(const ColourField& colour);
 BindingText describe(const Table& table);
 BindingText describe(const FixedText& fixed);
 
-// The pieces of a text in which literal parts stand between grave accents.
-TextLine markedText(std::string_view text);
-
-// "Windows 98, Me, 2000, XP"
-std::string windowsVersions(VersionSet versions);
-
-// "Windows 98, Me, 2000, XP", or "Every Windows", or "Every Windows but 95".
-std::string acceptedBy(const Gate& gate);
+// Empty where the tweak's registry line names the value itself: its own routines then treat the value otherwise than
+// the binding does.
+BindingText unlessTold(const Tweak& tweak, BindingText binding);
 
 }  // namespace korvane

@@ -10,6 +10,7 @@
 #include "res/ControlIds.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace korvane {
 namespace {
@@ -128,7 +129,8 @@ struct ControlsText {
     const Tweak& tweak;
     std::string text = {};
 
-    void add(std::string_view name, std::string_view kind, int control, const BindingText& binding) {
+    void add(std::string_view name, std::string_view kind, int control, BindingText described) {
+        const BindingText binding = unlessTold(tweak, std::move(described));
         text += "<dt>" + (name.empty() ? "" : element("b", label(name)) + " ");
         text += styled("span", "kind", std::string(kind) + ' ' + std::to_string(control)) + "</dt>\n";
         for (const TextLine& place : binding.places) {

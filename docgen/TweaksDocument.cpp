@@ -5,6 +5,8 @@
 #include "docgen/BindingText.h"
 #include "catalogue/Catalogue.h"
 
+#include <utility>
+
 namespace korvane {
 namespace {
 
@@ -18,18 +20,20 @@ below the description says where the tweak stands in the tree, and which version
 refuse it and write nothing. XP includes Windows Server 2003. Windows Vista and later accept only what is for every
 Windows. What is not in the tree is reachable by `kmctl` alone.
 
-Then come the controls of the page. Each says what it is in the registry, and what *Apply Changes* writes for each of
-its states:
+Then come the controls of the page: what each one is in the registry, and what *Apply Changes* writes for each of its
+states.
 
 - `HKCR`, `HKCU`, `HKLM` and `HKU` are the roots `HKEY_CLASSES_ROOT`, `HKEY_CURRENT_USER`, `HKEY_LOCAL_MACHINE` and
   `HKEY_USERS`.
-- A key that is *opened* must exist: without it the control shows its empty state, and nothing is written. One that is
-  *created* is made when the page is applied, if need be with the keys above it; one that is *created below* another
-  only if that other key exists. Showing a page never creates anything.
-- *No choice* is a combo box in which nothing is selected.
-- Numbers that begin with `0x`, and the bytes of REG_BINARY data, are hexadecimal.
-- *Registry* tells what the tweak reads and writes besides, or in place of that, *Source* where Windows' side of it is
-  described.
+- A key that is *opened* must exist: without it nothing is written. One that is *created* is made when the page is
+  applied, if need be with the keys above it; one that is *created below* another only if that other key exists.
+  Showing a page never creates anything.
+- A value that is missing, cannot be read or is longer than 202 bytes shows as the control's empty state: a cleared box,
+  an empty text, *no choice*. Where a control shows something else, its lines or the line *Registry* say so: *shown when
+  missing*, or *unknown* for stored data that is none of the entries.
+- *No choice* is a combo box in which no entry is selected, also one whose text was typed.
+- Numbers that begin with `0x`, and the bytes of REG_BINARY data, are hexadecimal; all others are decimal.
+- *Registry* tells what the tweak's own routines read and write, *Source* where Windows' side of it is described.
 
 )";
 
@@ -82,7 +86,8 @@ void addLines(std::string& document, const std::vector<TextLine>& lines) {
     }
 }
 
-void addControl(std::string& document, const Tweak& tweak, const std::string& name, const BindingText& binding) {
+void addControl(std::string& document, const Tweak& tweak, const std::string& name, BindingText described) {
+    const BindingText binding = unlessTold(tweak, std::move(described));
     document += "- " + name;
     addLines(document, binding.places);
     if (!tweak.showOnly) {

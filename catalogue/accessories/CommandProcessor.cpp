@@ -159,8 +159,8 @@ constexpr Tweak kTweaks[] = {
      .title = "Enable Command Completion",
      .description =
          "Chooses the key that completes a partly typed file or folder name at the command prompt, for the current "
-         "user and for all users. Pressing it again shows the next match. Choose an entry in both lists before "
-         "applying; Disable removes the key.",
+         "user and for all users. Pressing it again shows the next match. Disable deletes the value. Choose an entry "
+         "in both lists before you apply; without one, 0xFFFFFFFF is stored.",
      .treeParent = 1,
      .page = Page::CheckCombos,
      .choices = kCommandCompletion,
@@ -180,9 +180,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 10,
      .title = "Enable Directory Completion",
      .description =
-         "Chooses the key that completes a partly typed directory name at the command prompt, for the current user and "
-         "for all users. It skips files, which is quicker after commands such as CD. Choose an entry in both lists "
-         "before applying; Disable removes the key.",
+         "Chooses the key that completes a partly typed folder name at the command prompt, for the current user and "
+         "for all users. It skips files, which is quicker after commands such as CD. Disable deletes the value. Choose "
+         "an entry in both lists before you apply; without one, 0xFFFFFFFF is stored.",
      .treeParent = 1,
      .page = Page::CheckCombos,
      .choices = kDirectoryCompletion,
@@ -203,9 +203,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 12,
      .title = "Run Startup Programs in Command Prompt",
      .description =
-         "Names a command or program that runs each time the command interpreter starts for the current user, for "
-         "example a batch file that extends the path or defines shortcuts. It also runs when a batch file is opened, "
-         "so keep it quick. An empty field removes it.",
+         "Names a command or program that runs each time the command interpreter starts for the current user, batch "
+         "files included, so keep it quick. An example is a batch file that extends the path. An empty field deletes "
+         "the value. A stored command of more than 201 characters is not shown here, and applying the page then "
+         "deletes it.",
      .treeParent = 1,
      .page = Page::CheckFields,
      .fields = kAutoRun,

@@ -94,8 +94,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 68,
      .title = "Change the Color of Active File and Folder Links",
      .description =
-         "Sets the color in which names of files and folders are shown while they act as links, for example when the "
-         "mouse rests on them. Choose one that stands out clearly from the background of the windows.",
+         "Sets the color of file and folder names while they act as links, for example under the mouse pointer. Choose "
+         "one that stands out from the window background. Unless a named color is stored, the list starts with a "
+         "random one, so choose yours before you apply.",
      .treeParent = 51,
      .page = Page::CheckCombos,
      .colour = &kLinkColour,
@@ -106,9 +107,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 69,
      .title = "Change the Color of Compressed Files and Folders",
      .description =
-         "Sets the color in which Explorer writes the names of compressed NTFS files and folders for the current user. "
-         "Explorer uses it only while compressed files are shown in an alternate color; choose one that can be read "
-         "well on white.",
+         "Sets the color in which Explorer writes the names of compressed NTFS files and folders for the current user, "
+         "while it shows them in an alternate color. Unless a named color is stored, the list starts with a random "
+         "one, so choose yours before you apply.",
      .page = Page::CheckCombos,
      .colour = &kCompressedColour,
      .note = kRestartOrLogOutNote,
@@ -117,8 +118,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 70,
      .title = "Change the Color of Encrypted Files",
      .description =
-         "Sets the color in which Explorer writes the names of encrypted NTFS files for the current user, so that "
-         "protected files are recognized at a glance. It is used only while Explorer shows such files in color.",
+         "Sets the color in which Explorer writes the names of encrypted NTFS files for the current user, while it "
+         "shows such files in color. Unless a named color is stored, the list starts with a random one, so choose "
+         "yours before you apply.",
      .page = Page::CheckCombos,
      .colour = &kEncryptedColour,
      .note = kRestartOrLogOutNote,

@@ -95,9 +95,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 61,
      .title = "Automatically View Thumbnails of Bitmap Files",
      .description =
-         "Shows every bitmap file (.bmp) with a small picture of its own contents instead of the common icon, for all "
-         "users. Folders with many large bitmaps then open more slowly; clearing the box sets the standard picture "
-         "icon.",
+         "Shows every bitmap file (.bmp) as a small picture of its own contents instead of the common icon, for all "
+         "users. Folders with many large bitmaps then open more slowly. Clearing the box sets an icon of shimgvw.dll, "
+         "which only Windows Me and XP have.",
      .treeParent = 60,
      .page = Page::Checks,
      .boxes = kBitmapThumbnails,
@@ -105,9 +105,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 62,
      .title = "Change the Recycle Bin Icons",
      .description =
-         "Replaces the icons of the Recycle Bin for the current user: the one shown by default, the one for an empty "
-         "and the one for a full bin. Name icon files, or a program or library followed by a comma and the number of "
-         "the icon.",
+         "Replaces the icons of the Recycle Bin for the current user: the default one, the one of an empty bin and the "
+         "one of a full bin. Name an icon file, or a program or library followed by a comma and the number of the "
+         "icon. An empty field is stored as an empty name, so fill in all three.",
      .treeParent = 60,
      .page = Page::CheckFields,
      .fields = kRecycleBinIcons,

@@ -236,9 +236,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 82,
      .title = "Change the Screen Saver Grace Period",
      .description =
-         "After a screen saver with a password starts, it can still be ended without the password for a few seconds. "
-         "This setting changes how many seconds that is; 0 locks at once. Choose a number when the box is checked; "
-         "clearing it restores the default.",
+         "For a few seconds after a screen saver with a password has started, it can be ended without the password. "
+         "This sets how many; 0 locks at once. Pick an entry of the list: a typed number does not count, and without "
+         "an entry -1 is stored. Clearing the box deletes the value, so that the default applies again.",
      .treeParent = 78,
      .page = Page::CheckCombo,
      .boxes = kGracePeriodBox,
@@ -307,8 +307,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 89,
      .title = "Remove My Computer from the Desktop and Start Menu",  // same title as record 201, on purpose
      .description =
-         "Hides My Computer on the desktop and on the Start menu, for the current user or for all users. It keeps "
-         "inexperienced users away from the drives, though these can still be reached in other ways.",
+         "Hides My Computer on the desktop and on the Start menu, for the current user or for all users. Its drives "
+         "can still be reached in other ways. The tweak of the same title in Start Menu and Taskbar (ItemId 201) sets "
+         "the same values and shares the date.",
      .treeParent = 78,
      .page = Page::Checks,
      .boxes = kMyComputer,

@@ -241,8 +241,8 @@ constexpr Tweak kTweaks[] = {
     {.id = 115,
      .title = "Show Encryption Commands on the Shortcut Menu",
      .description =
-         "Adds Encrypt and Decrypt to the right-click menu of files and folders on NTFS drives, for all users. It "
-         "saves the way through the properties for those who encrypt files often.",
+         "Adds Encrypt and Decrypt to the right-click menu of files and folders on NTFS drives, for all users. If you "
+         "encrypt files often, this is quicker than opening their properties.",
      .page = Page::Checks,
      .boxes = kEncryptionMenu,
      .note = kRestartOrLogOutNoteWithBlank,

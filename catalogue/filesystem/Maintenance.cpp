@@ -144,8 +144,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 124,
      .title = "Optimize the System Cache Size",
      .description =
-         "Chooses what most of the memory is kept for: programs on desktop computers, or the cache of the file system "
-         "on network servers. The server setting speeds up file sharing but leaves less memory to programs.",
+         "Chooses what Windows keeps most of the memory for: programs (Desktop Computers) or the file system cache "
+         "(Network Servers). The server setting speeds up file sharing but leaves less memory to programs. Choose an "
+         "entry before you apply; without one, 0xFFFFFFFF is stored.",
      .page = Page::CheckCombos,
      .choices = kCacheUse,
      .gate = kGateNt},
@@ -189,8 +190,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 141,
      .title = "Modifying the Autocheck Time-out Value",
      .description =
-         "Sets how many seconds Windows waits for a key to skip the disk check that follows an improper shutdown. The "
-         "usual value is 10; 0 starts the check at once and leaves no chance to skip it.",
+         "Sets how many seconds Windows waits for a key that skips the disk check after an improper shutdown. The "
+         "default is 10; with 0 the check starts at once and cannot be skipped. Pick an entry of the list: a typed "
+         "number does not count, and without an entry 0xFFFFFFFF is stored.",
      .treeParent = 137,
      .page = Page::CheckCombos,
      .choices = kAutocheckTimeOut,
@@ -246,8 +248,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 148,
      .title = "Disable the Recycle Bin",
      .description =
-         "Deletes files at once instead of moving them to the Recycle Bin, for all users, as long as all drives share "
-         "one setting. It frees the space immediately, but a file deleted by mistake cannot be fetched back.",
+         "Deletes files at once instead of moving them to the Recycle Bin, for all users. It works only while the "
+         "Recycle Bin uses one setting for all drives. The space is free immediately, but a file deleted by mistake "
+         "cannot be restored.",
      .treeParent = 122,
      .page = Page::Checks,
      .boxes = kRecycleBin,

@@ -259,9 +259,10 @@ constexpr Tweak kTweaks[] = {
     {.id = 158,
      .title = "Automatic Login to Windows NT 2000 and XP",
      .description =
-         "Logs the given user in at startup without a login dialog, for computers that only one person uses. The "
-         "password is kept as plain text where others may read it. Clear 'Reset after reboot?' to force the "
-         "automatic login again after every logoff as well.",
+         "Logs the given user in at startup without a login dialog. The password is stored as plain text, where others "
+         "may read it. Clear 'Reset after reboot?' to log in again after every logoff too: that box stores "
+         "ForceAutoLogon as the text 1, and does not recognize the number that 'Force the Use of Automatic Login' "
+         "stores there.",
      .page = Page::CheckFields,
      .boxes = kAutoLoginBoxes,
      .fields = kAutoLoginFields,
@@ -270,7 +271,7 @@ constexpr Tweak kTweaks[] = {
      .apply = applyAutoLogin,
      .registry = "'Reset after reboot?' stands for `ForceAutoLogon` (REG_SZ) in `HKLM\\SOFTWARE\\Microsoft\\Windows "
                  "NT\\CurrentVersion\\Winlogon` (opened): checked deletes the value, cleared writes `1`. The box is "
-                 "shown cleared while the value is `1`."},
+                 "shown checked unless the value is `1`."},
     {.id = 159,
      .title = "Change the Default Login Screen Saver",
      .description =
@@ -292,8 +293,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 160,
      .title = "Change the Login Window",
      .description =
-         "Windows XP can greet users with the friendly Welcome screen and its pictures or with the classic dialog, "
-         "where user name and password are typed. Classic mode does not show to passers-by which accounts exist.",
+         "Chooses how users log in to Windows XP: on the Welcome screen with its pictures, or in the classic dialog, "
+         "where they type user name and password and which does not show what accounts exist. Choose an entry before "
+         "you apply; without one, 0xFFFFFFFF is stored.",
      .treeParent = 155,
      .page = Page::CheckCombos,
      .choices = kLoginWindow,
@@ -302,8 +304,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 161,
      .title = "Change the Login Screen Background Color",
      .description =
-         "Paints the background of the screen behind the login dialog in a color of your choice. Applying a color "
-         "also removes the wallpaper of the login screen, because a picture would cover it.",
+         "Paints the screen behind the login dialog in the color you choose. Applying also removes the wallpaper of "
+         "the login screen, because a picture would cover the color. Unless a named color is stored, the list starts "
+         "with a random one, so choose yours before you apply.",
      .treeParent = 155,
      .treeText = "Change the login Screen Background Color",
      .page = Page::CheckCombos,
@@ -336,9 +339,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 164,
      .title = "Disable Passport Balloon Reminder",
      .description =
-         "Windows XP keeps reminding each new user with a balloon to add a Passport to the account. When checked, "
-         "the reminder counter of the current user is set to ten, so that Windows takes the matter as settled; "
-         "unchecked, it begins at one again.",
+         "Windows XP shows new users a balloon that suggests adding a Passport to the account, at most ten times. "
+         "Checking the box sets the count for the current user to ten, so that the balloon no longer appears; clearing "
+         "it sets the count to one.",
      .treeParent = 155,
      .page = Page::Checks,
      .boxes = kPassport,
@@ -376,8 +379,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 168,
      .title = "Force the Use of Automatic Login",
      .description =
-         "When the automatic login is set up, this option logs the same user in again right after every logoff. "
-         "Useful for public terminals that must never stay at the login screen.",
+         "Logs the same user in again after every logoff, once automatic login is set up. Useful for public terminals "
+         "that must never stay at the login screen. ForceAutoLogon is stored as a number here; 'Automatic Login to "
+         "Windows NT 2000 and XP' stores it as a text, and does not recognize the number.",
      .page = Page::Checks,
      .boxes = kForceAutoLogin,
      .note = kNote,
@@ -405,8 +409,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 171,
      .title = "Legal Notice Dialog Box Before Login",
      .description =
-         "Shows a message box with your title and text before each login, which every user must confirm. Companies "
-         "use it to state who may use the computer. Leave both fields empty to remove the message.",
+         "Shows a message box with your title and text before each login; every user must confirm it. Companies use it "
+         "to state who may use the computer. An empty field deletes its value. A stored text of more than 201 "
+         "characters is not shown here, and applying the page then deletes it.",
      .treeParent = 155,
      .treeText = "Legal Notice Dialog Box Before login",
      .page = Page::CheckFields,
@@ -431,9 +436,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 173,
      .title = "Modify the Number of Cached Logins",
      .description =
-         "Windows remembers the last domain users who logged in, so that they can log in again while no domain "
-         "controller can be reached. Choose how many it remembers: 0 is the most secure, larger numbers suit "
-         "portables that are shared.",
+         "Windows remembers the last domain users who logged in, so that they can log in while no domain controller "
+         "can be reached. Choose how many: 0 is the most secure, larger numbers suit shared portables. Pick an entry "
+         "of the list: a typed number does not count, and without an entry -1 is stored.",
      .treeParent = 155,
      .page = Page::CheckCombos,
      .choices = kCachedLogins,

@@ -99,8 +99,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 183,
      .title = "Show Cascading My Documents Folder",
      .description =
-         "Lists the files in My Documents as a cascading menu on the Start menu, which saves opening the folder "
-         "first. When you clear the box, My Documents disappears from the Start menu altogether.",
+         "Shows the contents of My Documents as a cascading menu on the Start menu, so that a file can be opened "
+         "without opening the folder first. Clearing the box removes My Documents from the Start menu; a plain entry "
+         "can be had with 'View Enhanced Start Menu Folders'.",
      .treeParent = 178,
      .page = Page::Checks,
      .boxes = kMyDocuments,

@@ -133,9 +133,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 196,
      .title = "Clear the Cashed Run Commands",  // spelled so on purpose
      .description =
-         "Deletes the list of commands that you typed into the Run dialog, so that nobody can look them up. The "
-         "box is checked when there is no list; applying it unchecked only makes sure that an empty list can be "
-         "kept.",
+         "Deletes the list of commands that the current user has typed into the Run dialog, so that nobody can look "
+         "them up. The box is checked while there is no such list. Applying it cleared deletes nothing: it only "
+         "creates an empty list if there is none.",
      .treeParent = 177,
      .page = Page::Checks,
      .boxes = kRunCommands,
@@ -190,9 +190,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 201,
      .title = "Remove My Computer from the Desktop and Start Menu",
      .description =
-         "Takes the My Computer icon off the desktop and off the Start menu, for the current user or for "
-         "everybody. A tidy screen for users who are not expected to browse the drives; the drives themselves stay "
-         "reachable by other ways.",
+         "Hides My Computer on the desktop and on the Start menu, for the current user or for all users. Its drives "
+         "can still be reached in other ways. The tweak of the same title in Desktop (ItemId 89) sets the same values "
+         "and shares the date.",
      .treeParent = 177,
      .page = Page::Checks,
      .boxes = kMyComputer,

@@ -133,10 +133,11 @@ constexpr Tweak kTweaks[] = {
      .boxes = kBannerBox,
      .note = kShellNote,
      .apply = applyStartBanner,
-     .registry = "What is written differs from what is shown: checked writes `NoStartBanner` as REG_BINARY `01 00 00 "
-                 "00`, cleared deletes it, in the key above and in "
+     .registry = "`NoStartBanner` in `HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer` and in "
                  "`HKU\\S-1-5-21-839522115-1547161642-725345543-"
-                 "1003\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer` (both opened)."},
+                 "1003\\Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer` (both opened): checked "
+                 "writes REG_BINARY `01 00 00 00`, cleared deletes the value. The box shows the first of the two, read "
+                 "as a number."},
 };
 
 }  // namespace

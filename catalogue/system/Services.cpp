@@ -227,9 +227,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 249,
      .title = "Windows Time Synchronization Settings",
      .description =
-         "Sets from which server Windows takes the time, how often, and by which method, and whether this computer "
-         "counts as a reliable source for others. Type Nt5DS follows the domain, NTP uses the given server, NoSync "
-         "switches synchronization off.",
+         "Sets the server that Windows takes the time from, how often it does so, whether this computer is a reliable "
+         "source for others, and the method: Nt5DS follows the domain, NTP uses the given server, AllSync uses every "
+         "source, NoSync turns synchronization off. A list without a choice leaves its value alone.",
      .page = Page::EditCombos,
      .fields = kTimeSource,
      .choices = kTimeChoices,

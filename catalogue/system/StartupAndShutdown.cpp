@@ -192,8 +192,8 @@ constexpr Tweak kTweaks[] = {
     {.id = 220,
      .title = "Enable Shutdown Event Tracker",
      .description =
-         "Asks for a reason whenever the computer is shut down or restarted and records it in the event log. "
-         "Servers profit from the record; on a workstation of Windows XP the question is usually switched off.",
+         "Asks for a reason whenever the computer is shut down or restarted, and records it in the event log. The "
+         "record is useful on servers; on workstations the question is usually turned off.",
      .treeParent = 211,
      .page = Page::Checks,
      .boxes = kEventTracker,
@@ -202,9 +202,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 221,
      .title = "Manage the Windows Prefetcher Service",
      .description =
-         "Windows XP notes which files are loaded at boot and when programs start, and reads them ahead the next "
-         "time. Choose whether this is done for programs, for booting, for both or not at all; both is usually the "
-         "fastest.",
+         "Windows XP records which files are read at boot and when programs start, and reads them ahead the next time. "
+         "Choose whether it does so for programs, for booting, for both or not at all; both is usually fastest. Choose "
+         "an entry before you apply; without one, 0xFFFFFFFF is stored.",
      .page = Page::CheckCombos,
      .choices = kPrefetcher,
      .note = kRestartWindowsNote,
@@ -235,9 +235,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 225,
      .title = "Specify the Response Time for Hung Applications",
      .description =
-         "Sets how many milliseconds a program may go without reacting before Windows counts it as hung. A longer "
-         "time spares programs that are merely busy, a shorter one lets you end frozen ones sooner. Set for the "
-         "current user and for the login desktop; a number is required.",
+         "Sets how many milliseconds a program may go without responding before Windows counts it as hung, for the "
+         "current user and for the login desktop. A longer time spares busy programs, a shorter one lets you end "
+         "frozen ones sooner. Enter a number: any text is stored as it is typed, and only an empty field is refused.",
      .treeParent = 211,
      .page = Page::CheckFields,
      .fields = kResponseTime,

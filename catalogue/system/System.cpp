@@ -175,9 +175,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 257,
      .title = "Change Power Management Configuration",
      .description =
-         "Selects the power scheme of the current user, as Power Options in Control Panel does, by writing its "
-         "number (0 to 5) to the value CurrentPowerPolicy. Choose Portable/Laptop or Max Battery to save power, "
-         "Always On for a server.",
+         "Selects the power scheme of the current user, as Power Options in Control Panel does. The names are those of "
+         "the six schemes of Windows XP; another version may have other schemes under the stored numbers 0 to 5. "
+         "Choose Portable/Laptop or Max Battery to save power, Always On for a server.",
      .page = Page::CheckCombos,
      .choices = kPowerScheme,
      .note = kSmallRestartOrLogOutNote,
@@ -272,8 +272,8 @@ constexpr Tweak kTweaks[] = {
     {.id = 267,
      .title = "Hide Computer Management Option",
      .description =
-         "Removes the Manage command, which opens Computer Management, from the right-click menu of My Computer "
-         "for the current user. It hides the way only: the tool can still be started elsewhere.",
+         "Removes the Manage command, which opens Computer Management, from the right-click menu of My Computer for "
+         "the current user. Computer Management itself stays available, for example in Administrative Tools.",
      .treeParent = 226,
      .page = Page::Checks,
      .boxes = kManageVerb,
@@ -293,8 +293,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 269,
      .title = "Increase the USB Polling Interval",
      .description =
-         "The first USB controller is asked for news every millisecond, which keeps some portable processors from "
-         "resting. When checked, it is asked every five milliseconds, so that the battery lasts longer.",
+         "Windows polls the first USB controller every millisecond, which keeps some mobile processors from saving "
+         "power. Checking the box makes it every five milliseconds, so that the battery lasts longer; clearing it "
+         "deletes the value.",
      .page = Page::Checks,
      .boxes = kUsbPolling,
      .note = kRestartWindowsNote,

@@ -63,12 +63,16 @@ constexpr Tweak kTweaks[] = {
          "field leaves its folder unchanged.",
      .treeParent = kTreeRoot,
      .page = Page::PathFields,
-     .fields = kFolders},
+     .fields = kFolders,
+     .registry = "The profile folder is what comes before `Application Data` in the path of that folder, the backslash "
+                 "included, so that a path is shown with two backslashes there. Letter case counts. On versions of "
+                 "Windows other than NT 4, 2000 and XP nothing is replaced."},
     {.id = 307,
      .title = "Change the Location of Windows Installation Files",
      .description =
-         "Windows asks for its CD in the place from which it was installed. Enter the folder or drive where the "
-         "installation files are now, such as a copy on the hard disk; an empty field changes nothing.",
+         "Tells Windows where its installation files are, for example in a copy on the hard disk, so that it does not "
+         "ask for the CD. Enter the folder that contains I386 (Windows NT 4, 2000 and XP) or the folder with the .cab "
+         "files (Windows 95, 98 and Me). An empty field changes nothing.",
      .treeParent = kTreeRoot,
      .page = Page::CheckFields,
      .fields = kSourcePath,
@@ -87,8 +91,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 309,
      .title = "Configure CoolSwitch Application Swapping",
      .description =
-         "Sets how many columns and rows of icons the window shows that appears when you switch between programs "
-         "with Alt+Tab. Applying the page also turns that window on for the current user.",
+         "Sets how many columns and rows of icons the Alt+Tab window shows. Pick an entry in both lists: a typed "
+         "number does not count, and without an entry -1 is stored. Applying the page also turns that window on for "
+         "the current user.",
      .treeParent = kTreeRoot,
      .page = Page::CheckCombos,
      .choices = kCoolSwitch,

@@ -82,9 +82,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 285,
      .title = "User Environment Debug Logging",
      .description =
-         "Records how user profiles and policies are loaded in the file Userenv.log of the Windows debug folder. "
-         "Raise the level to verbose when logins are slow or profiles fail, and set it back afterwards, for the "
-         "log grows.",
+         "Sets how much Windows records about loading user profiles and policies in the file "
+         "Debug\\UserMode\\Userenv.log of the Windows folder. Use a verbose level when logins are slow or profiles "
+         "fail to load, and set it back afterwards, because the log keeps growing.",
      .page = Page::CheckCombos,
      .choices = kDebugLevel,
      .note = kSmallRestartOrLogOutNote,

@@ -145,9 +145,8 @@ constexpr Tweak kTweaks[] = {
     {.id = 299,
      .title = "Debug the Windows Update Process",
      .description =
-         "Makes Windows Update go forward step by step, for finding the point at which an update fails. It sets "
-         "the Active Setup value SteppingMode to Y when checked and to N when unchecked; not every version of "
-         "Windows reads this value.",
+         "Checked, sets the Active Setup value SteppingMode to Y, so that Windows Update proceeds step by step and you "
+         "can see where an update fails. Cleared, sets it to N. Not every version of Windows reads this value.",
      .treeParent = 273,
      .page = Page::Checks,
      .boxes = kStepping,
@@ -166,8 +165,9 @@ constexpr Tweak kTweaks[] = {
      .source = "MSDN aa731206, Windows Embedded, NoPopupsOnBoot"},
     {.id = 301,
      .title = "Enable Remote Assistance",
-     .description = "Lets users of this Windows XP computer invite somebody to see their screen and help them over the "
-                    "network. Clear the box if nobody shall be asked for help in this way.",
+     .description =
+         "Allows users of this computer to invite a helper, who then sees their screen over the network. Clear the box "
+         "to turn off such invitations for all users.",
      .treeParent = 273,
      .page = Page::Checks,
      .boxes = kRemoteAssistance,
@@ -188,9 +188,9 @@ constexpr Tweak kTweaks[] = {
     {.id = 303,
      .title = "Run Inserted CD-ROMs Automatically",
      .description =
-         "Decides whether a CD starts by itself when inserted, for the current user. It sets or clears only the "
-         "CD-ROM bit (20 hexadecimal) of the value NoDriveTypeAutoRun; other drive types keep their setting. Turn "
-         "AutoRun off to be safe from unwanted programs.",
+         "Decides whether a CD starts by itself when it is inserted, for the current user. Only the CD-ROM bit (0x20) "
+         "of the value NoDriveTypeAutoRun is changed; other drive types keep their setting. Turn AutoRun off to be "
+         "safe from unwanted programs.",
      .treeParent = 273,
      .page = Page::Checks,
      .boxes = kAutoRun,
