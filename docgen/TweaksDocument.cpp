@@ -16,24 +16,24 @@ Every setting that Korvane Manager knows, with the registry values behind it. Ge
 catalogue, not this file.
 
 The number before a title is the ItemId: `kmctl show 11` shows that tweak, `kmctl apply 11 1013=1` changes it. The line
-below the description says where the tweak stands in the tree, and which versions of Windows accept it; all others
-refuse it and write nothing. XP includes Windows Server 2003. Windows Vista and later accept only what is for every
-Windows. What is not in the tree is reachable by `kmctl` alone.
+below the description says where the tweak is in the tree and which versions of Windows it accepts; on all others it is
+refused and nothing is written. XP includes Windows Server 2003. On Windows Vista and later only tweaks for every Windows
+work. What is not in the tree can be reached by `kmctl` only.
 
 Then come the controls of the page: what each one is in the registry, and what *Apply Changes* writes for each of its
 states.
 
 - `HKCR`, `HKCU`, `HKLM` and `HKU` are the roots `HKEY_CLASSES_ROOT`, `HKEY_CURRENT_USER`, `HKEY_LOCAL_MACHINE` and
   `HKEY_USERS`.
-- A key that is *opened* must exist: without it nothing is written. One that is *created* is made when the page is
-  applied, if need be with the keys above it; one that is *created below* another only if that other key exists.
-  Showing a page never creates anything.
+- A key that is *opened* must exist: without it nothing is written. One that is *created* is created when the
+  page is applied, if necessary with the keys above it; one that is *created below* another only if that other key
+  exists. Showing a page never creates anything.
 - A value that is missing, cannot be read or is longer than 202 bytes shows as the control's empty state: a cleared box,
   an empty text, *no choice*. Where a control shows something else, its lines or the line *Registry* say so: *shown when
   missing*, or *unknown* for stored data that is none of the entries.
 - *No choice* is a combo box in which no entry is selected, also one whose text was typed.
 - Numbers that begin with `0x`, and the bytes of REG_BINARY data, are hexadecimal; all others are decimal.
-- *Registry* tells what the tweak's own routines read and write, *Source* where Windows' side of it is described.
+- *Registry* says what the tweak's own routines read and write, *Source* where the setting is documented.
 
 )";
 
