@@ -30,11 +30,11 @@ constexpr CatalogueGroup kGroups[] = {
     {"Start up and Shutdown", 211, 225, kStartup},
     {"System", 226, 272, kSystem},
     {"Troubleshooting", 273, 305, kTroubleshooting},
-    // The reserved record 310 is kept with the rows that have no category.
+    // The reserved item 310 is kept with the tweaks that have no category.
     {"Top level", 306, 310, kTopLevel},
 };
 
-// One pointer per ItemId, made on first use.
+// One pointer per ItemId, filled on first use.
 const std::array<const Tweak*, kItemCount>& table() {
     static const auto made = [] {
         std::array<const Tweak*, kItemCount> rows{};

@@ -1,5 +1,5 @@
-// The whole catalogue: every record by its ItemId, in constant time, and the
-// groups of consecutive ItemIds that the modules own.
+// The whole catalogue: every item by its ItemId, in constant time, and the groups
+// of consecutive ItemIds, one for each catalogue module.
 #pragma once
 
 #include "catalogue/Units.h"
@@ -23,7 +23,7 @@ std::span<const CatalogueGroup> catalogueGroups();
 // tree.
 std::vector<int> overviewItems(const Tweak& category);
 
-// Null for a number outside 0 to 310.
+// Null for a number that is not an ItemId.
 const Tweak* findTweak(int id);
 
 }  // namespace korvane

@@ -1,5 +1,5 @@
-// The notes that the tweaks of several topics share. They differ in small ways on purpose: some topics begin the
-// sentence with a small letter.
+// The notes that tweaks of several topics share. Intended: they differ in small
+// ways; some begin the sentence with a small letter.
 #pragma once
 
 #include <string_view>

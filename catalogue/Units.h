@@ -1,4 +1,4 @@
-// The catalogue's units: one source file per topic, each a list of rows in
+// The units of the catalogue: one source file per topic, each a list of tweaks in
 // ItemId order. A new unit is declared here and listed in Catalogue.cpp.
 #pragma once
 

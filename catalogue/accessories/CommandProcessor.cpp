@@ -1,6 +1,6 @@
-// The Command Processor tweaks: the command prompt in folder menus, its colors,
-// its completion keys, and what it runs, allows or refuses.
-// Most of them are values of the current user that cmd.exe reads when it starts.
+// The Command Processor tweaks: the command prompt in folder menus, its colours,
+// its completion keys, and what it runs or refuses. Most of them are values of the
+// current user that cmd.exe reads when it starts.
 #include "catalogue/Units.h"
 #include "res/ControlIds.h"
 
@@ -9,9 +9,9 @@ namespace {
 
 constexpr KeyPath kCommandProcessor{Root::CurrentUser, "Software\\Microsoft\\Command Processor"};
 
-// Wider dates than other overviews have: meant so.
+// Intended: the date column is wider than in other overviews.
 
-// ---- 2: the menu entry's text is the user's, its command line follows the Windows family.
+// ---- 2: the user names the menu entry; its command line depends on the Windows family.
 constexpr CheckBox kPromptHere[] = {
     {.text = "Enable Command Prompt menu option",
      .binding = ShellVerbKey{.parent = {Root::ClassesRoot, "Directory\\shell"},
@@ -28,7 +28,7 @@ constexpr CheckBox kUncPaths[] = {
      .binding = DwordFlag{.key = kCommandProcessor, .name = "DisableUNCCheck"}},
 };
 
-// ---- 5: a row's index is its hexadecimal digit, so the number sets the text colour on black.
+// ---- 5: a row's index is its hexadecimal digit: it sets the text colour and leaves the background black.
 constexpr TableColumn kColourColumns[] = {{"Hexadecimal value", 109}, {"Color", 265}};
 constexpr std::string_view kColourCells[] = {
     "0", "Black",     "1", "Blue",         "2", "Green",        "3", "Aqua",
@@ -43,7 +43,7 @@ constexpr CheckBox kExtensions[] = {
      .binding = DwordFlagInverted(kCommandProcessor, "EnableExtensions")},
 };
 
-// ---- 7: row 0 writes 0; the value is never deleted.
+// ---- 7: row 0 writes 0; no row deletes the value.
 constexpr KeyPath kSystemPolicies{Root::CurrentUser, "Software\\Policies\\Microsoft", "Windows\\System"};
 constexpr TableColumn kPromptPolicyColumns[] = {{"Value", 99}, {"Discription", 295}};
 constexpr std::string_view kPromptPolicyCells[] = {"0", "(default) enable command prompt and batch files",
@@ -53,7 +53,7 @@ constexpr Table kPromptPolicy{.columns = kPromptPolicyColumns,
                               .cells = kPromptPolicyCells,
                               .binding = DwordRowChoice{kSystemPolicies, "DisableCMD"}};
 
-// ---- 8 and 10: the control code of the completion key. A combo without a selection writes its -1: meant so.
+// ---- 8 and 10: the number is the control code of the completion key. Intended: no choice writes 0xFFFFFFFF.
 constexpr NumberEntry kCompletionKeys[] = {{.text = "Disable", .number = 0, .deletes = true},
                                            {"Backspace key", 8},
                                            {"TAB key", 9},
@@ -101,7 +101,7 @@ constexpr Tweak kTweaks[] = {
      .boxes = kPromptHere,
      .fields = kPromptHereLabel,
      .note = kRestartOrLogOutNote,
-     // An empty menu text is refused before anything else, and clearing the box records no date.
+     // An empty menu text is refused before the date is recorded, and clearing the box records none.
      .stamp = Stamp::WhenOpen},
     {.id = 3,
      .title = "Allow UNC Paths at the Command Prompt",
@@ -134,7 +134,7 @@ constexpr Tweak kTweaks[] = {
      .table = &kColours,
      .gate = kGateNt},
     {.id = 6,
-     .title = "Disable Command Processor Extentions",  // spelled so on purpose
+     .title = "Disable Command Processor Extentions",  // Intended: spelled so.
      .description =
          "Turns off command extensions, the additional features of commands such as CD, FOR, IF, SET and CALL, for the "
          "current user. Useful for old batch files that were written for the plain commands and fail with the extended "
@@ -167,7 +167,7 @@ constexpr Tweak kTweaks[] = {
      .note = kRestartOrLogOutNote,
      .gate = kGateNt},
     {.id = 9,
-     .title = "Enable Delayed Environment Variable Expantion",  // spelled so on purpose
+     .title = "Enable Delayed Environment Variable Expantion",  // Intended: spelled so.
      .description =
          "Lets scripts of the current user write !NAME! to get the value a variable has when a command runs, where "
          "%NAME% gives the value it had when the line was read. Needed by batch files that change variables inside FOR "

@@ -1,6 +1,6 @@
-// The Dr Watson tweaks: what the crash reporter records when a program fails,
-// how it tells about it, and where its log and dump go. All of them hold for the
-// whole machine; the group has no place in the tree.
+// The Dr Watson tweaks: what it records when a program fails, how it tells the
+// user, and where its log and crash dump go. All of them apply to the whole
+// machine. The category is not in the tree.
 #include "catalogue/Units.h"
 
 namespace korvane {
@@ -14,7 +14,7 @@ constexpr CheckBox kNewLog[] = {{.text = "Create a new logFile for each applicat
                                  .binding = DwordFlagInverted(kDrWatson, "AppendToLogFile")}};
 constexpr CheckBox kThreads[] = {{.text = "Dump the contents of all threads during an application error",
                                   .binding = DwordFlag{.key = kDrWatson, .name = "DumpAllThreads"}}};
-// Two blanks before "encounters" in both: meant so.
+// Intended: two spaces before "encounters" in both.
 constexpr CheckBox kPopups[] = {{.text = "Enable Popups Alert when Dr Watson  encounters an application error",
                                  .binding = DwordFlag{.key = kDrWatson, .name = "VisualNotification"}}};
 constexpr CheckBox kSound[] = {{.text = "Enable Sound Alert when Dr Watson  encounters an application error",
@@ -22,7 +22,8 @@ constexpr CheckBox kSound[] = {{.text = "Enable Sound Alert when Dr Watson  enco
 constexpr CheckBox kCrashDump[] = {{.text = "Enable Creating a Crash Dump file after an Application Crash",
                                     .binding = DwordFlag{.key = kDrWatson, .name = "CreateCrashDump"}}};
 
-// The arguments are never shown, and every apply writes them anew: a debugger set up with others loses them. Meant so.
+// Intended: the arguments are never shown, and every apply appends these, so that a debugger set up with other
+// arguments loses them.
 constexpr Field kDebugger[] = {
     {.label = "The Alternate Program Path:",
      .binding = StringValue{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\AeDebug"},
@@ -79,7 +80,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateNt,
      .putBoxesBack = true},
     {.id = 16,
-     .title = "Control Thread Dumbing in Dr Watson",  // spelled so on purpose
+     .title = "Control Thread Dumbing in Dr Watson",  // Intended: spelled so.
      .description =
          "Records the state of all threads of a failing program in the Dr Watson log. With the box cleared only the "
          "thread that caused the error is recorded, which is often enough and keeps the log small.",
@@ -89,7 +90,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateNt,
      .putBoxesBack = true},
     {.id = 17,
-     .title = "Control Whether Dr Watson Alarts Using Popups",  // spelled so on purpose
+     .title = "Control Whether Dr Watson Alarts Using Popups",  // Intended: spelled so.
      .description =
          "Shows a message box whenever Dr Watson handles an application error. Clear it on servers and unattended "
          "computers, where nobody is there to close the box.",
@@ -99,7 +100,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateNt,
      .putBoxesBack = true},
     {.id = 18,
-     .title = "Control Whether Dr Watson Alarts Using Sound",  // spelled so on purpose
+     .title = "Control Whether Dr Watson Alarts Using Sound",  // Intended: spelled so.
      .description =
          "Plays a sound when Dr Watson handles an application error, so that a failure is noticed even when nobody is "
          "watching the screen. It can be combined with the message box.",
@@ -109,7 +110,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateNt,
      .putBoxesBack = true},
     {.id = 19,
-     .title = "Control Whether Dr Watson Creats a Crash Dump",  // spelled so on purpose
+     .title = "Control Whether Dr Watson Creats a Crash Dump",  // Intended: spelled so.
      .description =
          "Saves the memory of a failed program to a crash dump file, which can be loaded into a debugger later. Turn "
          "it on to have a recurring crash examined; turn it off to save disk space.",
@@ -119,7 +120,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateNt,
      .putBoxesBack = true},
     {.id = 20,
-     .title = "Specify the Alternat Debugging Utility",  // spelled so on purpose
+     .title = "Specify the Alternat Debugging Utility",  // Intended: spelled so.
      .description =
          "Names the program that Windows starts when an application fails, in place of the one set now. It is meant "
          "for developers with a debugger of their own; the usual process and event arguments are added to the path and "

@@ -1,11 +1,12 @@
-// The Windows Installer's policies: where they live, and the logging policy, which two items of the catalogue show.
+// The policies of Windows Installer: their keys, and the logging policy, which two
+// items show.
 #pragma once
 
 #include "pages/Tweak.h"
 
 namespace korvane {
 
-// The machine's policy, and the current user's copy of it (the policy mirror).
+// The machine policy and the current user's copy of it, the mirror.
 constexpr KeyPath kInstallerPolicy{Root::LocalMachine, "Software\\Policies\\Microsoft\\Windows\\Installer"};
 constexpr KeyPath kInstallerMirror{Root::CurrentUser,
                                    "Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy Objects\\LocalMachine",

@@ -1,4 +1,4 @@
-// The Accessories category and those of its tweaks that belong to no group: Task
+// The category Accessories and those of its tweaks that are in no subcategory: Task
 // Manager, the tour of Windows XP, Notepad, Device Manager, audio CDs and Telnet.
 #include "catalogue/Units.h"
 
@@ -36,7 +36,7 @@ constexpr CheckBox kDeviceDetails[] = {
      .binding = StringFlag{.key = kEnvironment, .name = "DEVMGR_SHOW_DETAILS"}},
 };
 
-// Two blanks before the slash: meant so.
+// Intended: two spaces before the slash.
 constexpr Field kAudioCd[] = {
     {.label = "The Program Path:",
      .binding = StringValue{.key = {Root::ClassesRoot, "AudioCD\\Shell\\Play\\Command"},

@@ -1,6 +1,6 @@
-// The Registry Editor records: restrictions and repairs of regedit and of remote
-// access to the registry. They keep their numbers and texts in the item table;
-// none of them has a page.
+// The Registry Editor items: restrictions and repairs of regedit and of remote
+// access to the registry. They only have texts in the item table; none of them has
+// a page.
 #include "catalogue/Units.h"
 
 namespace korvane {
@@ -23,7 +23,7 @@ constexpr Tweak kTweaks[] = {
          "Prevents a user from starting the registry editing tools regedit and regedt32. It protects shared computers "
          "from careless changes, but other programs can still change the registry."},
     {.id = 28,
-     .title = "Repare The Registry Editor",  // spelled so on purpose
+     .title = "Repare The Registry Editor",  // Intended: spelled so.
      .description =
          "The Registry Editor remembers its window position, its column widths and the key opened last. If its columns "
          "vanish or its window opens in the wrong place, deleting the remembered view brings the standard appearance "

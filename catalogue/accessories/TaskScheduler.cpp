@@ -1,5 +1,5 @@
-// The Task Scheduler tweaks: which parts of the scheduler's windows users may
-// change. Each is a policy with one box for the current user and one for all users.
+// The Task Scheduler tweaks: what users may do with scheduled tasks. Each is a
+// policy with one check box for the current user and one for all users.
 #include "catalogue/Units.h"
 
 namespace korvane {
@@ -7,7 +7,7 @@ namespace {
 
 constexpr KeyPath kScheduler{Root::CurrentUser, "Software\\Policies\\Microsoft\\Windows\\Task Scheduler5.0"};
 
-// The blanks before the brackets differ from row to row: meant so.
+// Intended: some texts have a space before the bracket, others do not.
 constexpr auto kProperties =
     ScopePair("Disable Changes to Task Properties(Current User)", "Disable Changes to Task Properties(All Users)",
               PolicyDwordFlag(kScheduler, "Property Pages"));
@@ -23,7 +23,7 @@ constexpr auto kManualControl =
 constexpr auto kAdvanced = ScopePair("Remove Advanced Option from Task Scheduler Wizard(Current User)",
                                      "Remove Advanced Option from Task Scheduler Wizard(All Users)",
                                      PolicyDwordFlag(kScheduler, "Disable Advanced"));
-// Creating and deleting are restricted together.
+// One box restricts both creating and deleting.
 constexpr auto kCreation =
     ScopePair("Restrict Task Creation and Deletion (Current User)", "Restrict Task Creation and Deletion (All Users)",
               DwordFlag{.key = kScheduler.madeWhole(), .name = "Task Creation", .alsoName = "Task Deletion"});
@@ -65,7 +65,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGate2000MeXp,
      .stamp = Stamp::WhenOpen},
     {.id = 34,
-     .title = "Disable Drags and Drop Task Scheduling",  // spelled so on purpose
+     .title = "Disable Drags and Drop Task Scheduling",  // Intended: spelled so.
      .description =
          "Disables cut, copy, paste and dragging in the Scheduled Tasks folder, so that users cannot add, copy or "
          "remove tasks with the mouse or the clipboard. Other ways to create tasks stay open.",

@@ -1,6 +1,6 @@
-// The Windows Installer tweaks: who may install programs with it and what it
-// writes to its log. Two of them are kept as machine policy and again in the
-// current user's copy of that policy; the group has no place in the tree.
+// The Windows Installer tweaks: who may install programs and what is logged. Two of
+// them are stored as a machine policy and in the current user's copy of that
+// policy. The category is not in the tree.
 #include "catalogue/Units.h"
 #include "catalogue/accessories/InstallerLogging.h"
 #include "pages/PageContext.h"
@@ -13,7 +13,7 @@ constexpr PlainEntry kInstallerModes[] = {{"Enabled"}, {"Admin Only"}, {"Disable
 constexpr Choice kInstaller[] = {{.label = "Windows Installer:", .binding = ChoiceEntries{kInstallerModes}}};
 constexpr std::string_view kDisable = "DisableMSI";
 
-// Selects nothing unless both places hold the value; then the mirror's number is the entry.
+// Shows no choice unless both places have the value; then the mirror's number is the entry.
 void showDisableInstaller(PageContext& context) {
     if (!context.read(kInstallerPolicy, kDisable)) {
         return;
@@ -23,7 +23,7 @@ void showDisableInstaller(PageContext& context) {
     }
 }
 
-// Removes the mirror's keys from the lowest up, each only if it has no subkeys left.
+// Deletes the mirror's keys from the deepest up, each only if it has no subkeys.
 void pruneMirror(Registry& registry) {
     std::string path(kInstallerMirror.created);
     while (!path.empty()) {
@@ -38,7 +38,7 @@ void pruneMirror(Registry& registry) {
     }
 }
 
-// "Enabled" is written as 0; only an empty selection removes the policy, and then prunes the mirror.
+// "Enabled" writes 0; only no choice deletes the policy, and with it the mirror's keys.
 void applyDisableInstaller(PageContext& context) {
     const int entry = context.page.comboSelection(IDC_COMBO1);
     if (entry == kNoSelection) {
@@ -97,7 +97,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGate2000Xp,
      .putBoxesBack = true},
     {.id = 41,
-     .title = "Windows Installer Logging",  // same title as record 287, on purpose
+     .title = "Windows Installer Logging",  // Intended: the title of item 287 too.
      .description =
          "Makes Windows Installer log each installation in the Temp folder, with every option of the list except + "
          "and !, to show why a setup failed. Clearing the box removes the value and with it the current user's whole "

@@ -1,6 +1,6 @@
-// The Appearance category and those of its tweaks that belong to no group:
-// colors of links and files, the wallpaper, thumbnails and previews, scrolling,
-// drawing acceleration and the Open and Save boxes.
+// The category Appearance and those of its tweaks that are in no subcategory:
+// colours of links and files, wallpaper, thumbnails and previews, scrolling,
+// hardware acceleration, and the Open and Save dialogs.
 #include "catalogue/Units.h"
 
 namespace korvane {
@@ -25,7 +25,7 @@ constexpr Field kWallpaperPosition[] = {
      .binding = StringValue{.key = kDesktop, .name = "WallpaperOriginY"}},
 };
 
-// A stored number outside the list shows as the one that Windows starts with, which is the entry at that index.
+// The indexes of the entries for Windows' own defaults, which are shown for a stored number outside the list.
 constexpr int kUsualSize = 96 - 32;
 constexpr int kUsualQuality = 90 - 50;
 constexpr Choice kThumbnails[] = {

@@ -1,6 +1,6 @@
-// The Effects and Menus tweaks: how menus open and align, what moves on the
-// screen while windows do, and the tooltips of the caption buttons.
-// All of them are settings of the current user; one reaches the login screen too.
+// The Effects and Menus tweaks: how menus open and align, animation, dragging, and
+// the tooltips of the caption buttons. All of them are settings of the current
+// user; one also applies to the login screen.
 #include "catalogue/Units.h"
 
 namespace korvane {
@@ -24,7 +24,7 @@ constexpr TextEntry kDelays[] = {{"No Delay", "0"},
                                  {"Standard (400 milliseconds)", "400"},
                                  {"Slower (800 milliseconds)", "800"},
                                  {"Slowest (999 milliseconds)", "999"}};
-// Any other delay shows as none, and is then written as none.
+// Any other stored delay shows as "No Delay", and is lost with the next apply.
 constexpr Choice kMenuDelay[] = {
     {.label = "Change the Menu Show Delay:",
      .binding = StringChoice{
@@ -39,7 +39,7 @@ constexpr CheckBox kDragFull[] = {
      .binding = StringFlag{.key = kDesktop, .name = "DragFullWindows"}},
 };
 
-// Every apply also clears the four low bits of the byte, and writes the profile of the logon desktop: meant so.
+// Intended: every apply also clears the four low bits of the byte, and also writes to the default user.
 constexpr KeyPath kLoginDesktop{Root::Users, ".DEFAULT\\Control Panel\\Desktop"};
 constexpr CheckBox kCaptionTips[] = {
     {.text = "Remove the Minimize, Maximize and Close Tooltips.",
@@ -114,7 +114,7 @@ constexpr Tweak kTweaks[] = {
      .boxes = kDragFull,
      .note = kRestartOrLogOffNote},
     {.id = 58,
-     .title = "Remove the Minimize Maximize and Close Tooltips",  // no comma, unlike the tree; on purpose
+     .title = "Remove the Minimize Maximize and Close Tooltips",  // Intended: no comma, unlike in the tree.
      .description =
          "Hides the little labels of the Minimize, Maximize and Close buttons by turning off hot tracking, for the "
          "current user and for the login screen. Each time it is applied, focus that follows the mouse, animation of "

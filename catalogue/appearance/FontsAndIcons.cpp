@@ -1,5 +1,5 @@
-// The Fonts and Icons tweaks: size, colors and titles of desktop icons, icons
-// of the Recycle Bin and of bitmap files, and the smoothing of screen fonts.
+// The Fonts and Icons tweaks: size, colours and titles of desktop icons, icons of
+// the Recycle Bin and of bitmap files, and font smoothing.
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
 #include "res/ControlIds.h"
@@ -30,7 +30,7 @@ constexpr Field kRecycleBinIcons[] = {
     {.label = "Full Icon:", .binding = recycleBinIcon("Full"), .picker = Picker::IconFile},
 };
 
-// An empty size is not written: Windows would read it as no size at all.
+// An empty size is not written, because Windows would read it as 0.
 constexpr Field kIconSize[] = {
     {.label = "Change the Size of Desktop Icons:",
      .binding = StringValue{.key = kMetrics, .name = "Shell Icon Size", .whenEmpty = WhenEmpty::WritesNothing}}};
@@ -45,7 +45,7 @@ constexpr Choice kSmoothingMode[] = {{.label = "Font Smoothing Mode:",
 
 constexpr TextEntry kDepths[] = {
     {"Low(16 colors)", "4"}, {"Normal(256 colors)", "8"}, {"Medium(64k colors)", "16"}, {"High(16.7M colors)", "24"}};
-// Every other depth shows as the highest, and is then written as that.
+// Any other stored depth shows as the highest, and is written as that with the next apply.
 constexpr Choice kHighColour[] = {{.label = "High Color Icons :",
                                    .binding = StringChoice{.key = kMetrics,
                                                            .name = "Shell Icon BPP",
@@ -63,7 +63,7 @@ constexpr Choice kFontSmoothing[] = {{.label = "Enable Font Smoothing:",
                                                               .compare = Compare::AsNumber,
                                                               .whenNone = WhenNone::WritesNothing}}};
 
-// Each entry has a gate of its own: it must fit the running Windows.
+// This tweak has its own routine because each entry has its own gate.
 void applyFontSmoothing(PageContext& context) {
     const int entry = context.page.comboSelection(IDC_COMBO1);
     const int kOn9x = 1;

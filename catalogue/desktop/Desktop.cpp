@@ -1,5 +1,5 @@
-// The Desktop tweaks: which icons the desktop shows, what they are called and in
-// which order they stand, and what users may do with the desktop.
+// The Desktop tweaks: which icons the desktop shows, their names and order, and
+// what users may do on the desktop.
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
 #include "res/ControlIds.h"
@@ -8,9 +8,9 @@ namespace korvane {
 namespace {
 
 constexpr std::string_view kNoteWithoutStop =
-    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // no full stop: meant so
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // Intended: no full stop.
 
-// ---- 80: a row is a key of the desktop's name space. The letter case of the identifiers is meant so.
+// ---- 80: a row is a key of the desktop's name space. Intended: the letter case of the class identifiers.
 constexpr KeyPath kNameSpace{Root::LocalMachine,
                              "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Desktop\\NameSpace"};
 
@@ -65,7 +65,7 @@ void applyIconVisibility(PageContext& context) {
     }
 }
 
-// ---- 82: a number of seconds that may be stored as a text or as a number.
+// ---- 82: the number of seconds is stored as REG_SZ or as REG_DWORD; both are read.
 constexpr KeyPath kWinlogon{Root::LocalMachine, {}, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"};
 constexpr std::string_view kGracePeriod = "ScreenSaverGracePeriod";
 constexpr CheckBox kGracePeriodBox[] = {{.text = "Change the Screen Saver Grace Period."}};
@@ -83,8 +83,7 @@ void showGracePeriod(PageContext& context) {
     }
 }
 
-// Without a selection the index -1 is written, as a text: meant so. The number is only the way out when no text can be
-// written.
+// Intended: no choice writes "-1". The REG_DWORD is only the fallback if the REG_SZ cannot be written.
 void applyGracePeriod(PageContext& context) {
     Registry& registry = context.platform.registry;
     const OpenedKey key = context.openForWriting(kWinlogon);
@@ -103,7 +102,7 @@ void applyGracePeriod(PageContext& context) {
     }
 }
 
-// ---- 83: every other stored number shows as My Computer, and no selection is written as that.
+// ---- 83: any other stored number shows as My Computer, and no choice writes the number of My Computer.
 constexpr NumberEntry kFirstIcons[] = {{"My Documents", 0x48}, {"My Computer", 0x54}};
 constexpr Choice kFirstIcon[] = {
     {.label = "Choose the First Desktop Icon :",
@@ -120,7 +119,7 @@ constexpr CheckBox kCleanup[] = {
     {.text = "Disable Desktop Cleanup Wizard .", .binding = DwordCheckState{.key = kCleanupWizard, .name = "NoRun"}},
 };
 
-// ---- 85 to 87 delete their value when the box is cleared; 89 writes 0.
+// ---- 85 to 87: cleared deletes the value; in 89 it writes 0.
 constexpr std::string_view kPolicies = "Software\\Microsoft\\Windows\\CurrentVersion\\Policies";
 constexpr KeyPath kExplorerPolicies{Root::CurrentUser, kPolicies, "Explorer"};
 constexpr DwordFlag explorerPolicy(std::string_view name) {
@@ -139,7 +138,7 @@ constexpr auto kMyComputer = ScopePair(
     "Remove My Computer from the Desktop and Start Menu(All Users).",
     DwordFlag{.key = {Root::CurrentUser, kPolicies, "NonEnum"}, .name = "{20D04FE0-3AEA-1069-A2D8-08002B30309D}"});
 
-// ---- 90: the two numbers differ in the one bit that hides the folder; Windows 95, 98 and Me keep it elsewhere.
+// ---- 90: the two numbers differ only in the bit that hides the folder; Windows 95, 98 and Me have it in another key.
 constexpr KeyPath kMyDocumentsKey{.root = Root::CurrentUser,
                                   .path = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer",
                                   .created = "CLSID\\{450D8FBA-AD25-11D0-98A8-0800361B1103}\\ShellFolder",
@@ -151,7 +150,7 @@ constexpr auto kMyDocuments =
               "Remove My Documents from the Desktop and Start Menu(All Users).",
               DwordFlag{.key = kMyDocumentsKey, .name = "Attributes", .checked = 0xF0500174, .cleared = 0xF0400174});
 
-// ---- 91: the first byte of four carries both permissions, so the boxes are read and written together.
+// ---- 91: both permissions are in the first of the four bytes, so both boxes are read and written at once.
 constexpr KeyPath kRecycleBin{Root::ClassesRoot, {}, "CLSID\\{645FF040-5081-101B-9F08-00AA002F954E}\\ShellFolder"};
 constexpr CheckBox kRecycleBinBoxes[] = {{.text = "Allow Rename of Recycle Bin."},
                                          {.text = "Allow Delete of Recycle Bin."}};
@@ -305,7 +304,7 @@ constexpr Tweak kTweaks[] = {
          "Runs the desktop and the taskbar in one process and every folder window in another. A folder window that "
          "crashes then leaves the desktop standing, at the price of more memory."},
     {.id = 89,
-     .title = "Remove My Computer from the Desktop and Start Menu",  // same title as record 201, on purpose
+     .title = "Remove My Computer from the Desktop and Start Menu",  // Intended: the title of item 201 too.
      .description =
          "Hides My Computer on the desktop and on the Start menu, for the current user or for all users. Its drives "
          "can still be reached in other ways. The tweak of the same title in Start Menu and Taskbar (ItemId 201) sets "

@@ -1,6 +1,6 @@
-// The Explorer category and its tweaks: commands in the menus of files and
-// folders, what folder windows show or hide, and how they open.
-// The search tweaks stand in a unit of their own.
+// The category Explorer and its tweaks: commands in the menus of files and folders,
+// what folder windows show, and how they open. The search tweaks are in a unit of
+// their own.
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
 #include "res/ControlIds.h"
@@ -8,7 +8,7 @@
 namespace korvane {
 namespace {
 
-// The notes differ in small ways: meant so.
+// Intended: the notes differ in small ways.
 constexpr std::string_view kNoteWithoutStop =
     "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";
 constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect.";
@@ -20,7 +20,7 @@ constexpr std::string_view kRefreshNote = "Note:\n\tReturn to the desktop and pr
 constexpr KeyPath kAdvanced{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"};
 constexpr KeyPath kPolicies{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
 
-// ---- 103: the shell's own handlers, each a subkey that names its class.
+// ---- 103: each handler of the shell is a subkey whose default value is its class identifier.
 constexpr KeyPath kHandlers{Root::ClassesRoot, {}, "AllFilesystemObjects\\shellex\\ContextMenuHandlers"};
 constexpr SubkeyFlag handler(std::string_view name, std::string_view classId) {
     return {.parent = kHandlers, .name = name, .text = classId, .shownByText = true, .compare = Compare::IgnoreCase};
@@ -32,7 +32,8 @@ constexpr CheckBox kCopyAndMove[] = {
      .binding = handler("Move To", "{C2FBB631-2971-11d1-A18C-00C04FD75D13}")},
 };
 
-// ---- 104: made under folders alone, shown and cleared under directories too: meant so.
+// ---- 104. Intended: checked creates the verb for folders only; cleared deletes it for directories too, and either
+// shows.
 constexpr CheckBox kExploreHere[] = {
     {.text = "Add Explore From Here to Every Folder Menu.",
      .binding = ShellVerbKey{.parent = {Root::ClassesRoot, "Folder\\shell"},
@@ -81,7 +82,7 @@ constexpr Choice kRestoreWindows[] = {
     {.label = "Folder Windows at Startup Mode:",
      .binding = DwordChoice{.key = kAdvanced, .name = "PersistBrowsers", .entries = kRestoreModes, .initial = 0}}};
 
-// Cleared leaves the key, with an empty default value.
+// Cleared keeps the key and empties its default value.
 constexpr CheckBox kSendTo[] = {
     {.text = "Enable \"Send to\" Context Menu .",
      .binding =
@@ -97,7 +98,7 @@ constexpr CheckBox kEncryptionMenu[] = {
     {.text = "Show Encryption Commands on the Shortcut Menu .",
      .binding = DwordCheckState{.key = kAdvanced.under(Root::LocalMachine), .name = "EncryptionContextMenu"}},
 };
-// Cleared writes 0, not 2: meant so.
+// Intended: cleared writes 0, not Explorer's own 2.
 constexpr CheckBox kHiddenFiles[] = {
     {.text = "Show Hidden Folders and Files.", .binding = DwordFlag{.key = kAdvanced, .name = "Hidden"}},
 };
@@ -112,13 +113,13 @@ constexpr CheckBox kOpenWithBox[] = {
                            .cleared = "rundll32.exe shell32.dll,OpenAs_RunDLL %1 %2"}},
 };
 
-// ---- 119: the n-th application that can be run is the n-th row, when shown and when applied.
+// ---- 119: in show and apply alike, the n-th application with a "shell" subkey is the n-th row.
 constexpr TableColumn kApplicationColumns[] = {{"Program", 372}};
 constexpr Table kApplications{
     .columns = kApplicationColumns,
     .binding = ApplicationRows{.name = "NoOpenWith", .counts = ApplicationRows::Counts::WithShellSubkey}};
 
-// Narrower dates than other overviews have: meant so.
+// Intended: the date column is narrower than in other overviews.
 
 constexpr Tweak kTweaks[] = {
     {.id = 95,
@@ -192,7 +193,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGateXp,
      .putBoxesBack = true},
     {.id = 110,
-     .title = "Launch Folder Windows in a Separate process",  // spelled so on purpose
+     .title = "Launch Folder Windows in a Separate process",  // Intended: spelled so.
      .description =
          "Opens each folder window of the current user in a process of its own. If one of them crashes, the others and "
          "the desktop go on working; every window takes some more memory and time to open.",
@@ -221,7 +222,7 @@ constexpr Tweak kTweaks[] = {
      .note = kRestartNote,
      .gate = kGateXp},
     {.id = 113,
-     .title = "Show'Send to'Context Menu",  // spelled so on purpose
+     .title = "Show'Send to'Context Menu",  // Intended: spelled so.
      .description =
          "Shows or removes the Send To menu, which copies files to a disk, a mail message or another target, for all "
          "users. Its entries are kept when it is removed, and return with it.",
@@ -267,7 +268,7 @@ constexpr Tweak kTweaks[] = {
      .boxes = kSuperHidden,
      .note = kRestartOrLogOutNoteWithBlank},
     {.id = 118,
-     .title = "Show or Hide'Open With'Program Checkbox",  // spelled so on purpose
+     .title = "Show or Hide'Open With'Program Checkbox",  // Intended: spelled so.
      .description =
          "Shows the check box in the Open With window that makes the selected program the standard one for files of "
          "that type. Hide it so that a file type is not assigned to a wrong program by accident; it holds for all "

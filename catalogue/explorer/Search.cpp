@@ -1,15 +1,15 @@
-// The Search tweaks: the options with which a search starts, the search button
-// and assistant of Explorer, and searches in Active Directory.
+// The Search tweaks: the default options of a search, Explorer's search button and
+// assistant, and Active Directory searches.
 #include "catalogue/Units.h"
 
 namespace korvane {
 namespace {
 
 constexpr std::string_view kNoteWithoutStop =
-    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // no full stop: meant so
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // Intended: no full stop.
 
 constexpr KeyPath kExplorer{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer"};
-// The blank at the end of each text is meant so.
+// Intended: a space at the end of each text.
 constexpr CheckBox kSearchOptions[] = {
     {.text = "Case sensitive ", .binding = DwordFlag{.key = kExplorer, .name = "CaseSensitive"}},
     {.text = "Search subfolders ", .binding = DwordFlag{.key = kExplorer, .name = "IncludeSubFolders"}},
@@ -42,7 +42,7 @@ constexpr CheckBox kDirectoryFilter[] = {
                                 .name = "EnableFilter"}},
 };
 
-// Only the small-letter "no" selects the second entry: meant so.
+// Intended: only a lower-case "no" selects the second entry.
 constexpr TextEntry kYesNo[] = {{"Yes", "yes"}, {"No", "no"}};
 constexpr Choice kSearchAssistant[] = {
     {.label = "Use Search Assistant:",

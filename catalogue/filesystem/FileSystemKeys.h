@@ -1,5 +1,5 @@
-// The keys that several of the file system's tweaks share, and their notes. The
-// notes differ in small ways: meant so.
+// The keys and notes that several tweaks of the file system share. Intended: the
+// notes differ in small ways.
 #pragma once
 
 #include "pages/Tweak.h"

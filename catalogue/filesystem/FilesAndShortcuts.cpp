@@ -1,5 +1,5 @@
-// The Files and Shortcuts tweaks: how Windows finds the targets of broken
-// shortcuts, how it names files and shortcuts, and what belongs to a web page.
+// The Files and Shortcuts tweaks: how Windows resolves broken shortcuts, how it
+// names files and shortcuts, and saved web pages.
 #include "catalogue/Units.h"
 #include "catalogue/filesystem/FileSystemKeys.h"
 
@@ -9,9 +9,9 @@ namespace korvane {
 namespace {
 
 constexpr std::string_view kNoteWithoutStop =
-    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // no full stop: meant so
+    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect";  // Intended: no full stop.
 
-// The blank before the full stop of most texts is meant so, here and in the rest of the group.
+// Intended: a space before the full stop of most texts, here and in the rest of the group.
 constexpr CheckBox kSearchForTargets[] = {
     {.text = "Disable Search for Broken Shortcuts .",
      .binding = DwordCheckState{.key = kFileSystemPolicies, .name = "NoResolveSearch"}}};
@@ -35,7 +35,7 @@ constexpr CheckBox kShortExtensions[] = {
     {.text = "Manage Windows Short File Extensions .",
      .binding = DwordFlagInverted(kFileSystemControl, "Win95TruncatedExtensions")}};
 
-// A checked box writes the zeros that take the prefix away, although its text offers to add it: meant so.
+// Intended: the text offers the prefix, but checked writes the zeros that remove it.
 constexpr std::byte kNoPrefix[4] = {};
 constexpr auto kShortcutPrefix = ScopePair(
     "Prefix 'Shortcut to...'to Shortcuts (Current User) .", "Prefix 'Shortcut to...'to Shortcuts (All Users) .",
@@ -121,7 +121,7 @@ constexpr Tweak kTweaks[] = {
          "Windows marks shortcuts with a small arrow in the corner of their icon. The arrow can be replaced with "
          "another one or removed; without it, a shortcut can hardly be told from the file itself."},
     {.id = 133,
-     .title = "Remove the'Shortcut to...'Prefix on Shortcuts",  // spelled so on purpose
+     .title = "Remove the'Shortcut to...'Prefix on Shortcuts",  // Intended: spelled so.
      .description =
          "New shortcuts normally get a name that begins with Shortcut to. Although the label reads otherwise, a "
          "checked box removes these words from the names, for the current user or for all users; clearing it brings "

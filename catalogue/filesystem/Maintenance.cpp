@@ -1,6 +1,5 @@
-// The File System category and all its tweaks but those of files and shortcuts:
-// caching, upkeep of disks and NTFS, discs that start by themselves, burning and
-// the Recycle Bin.
+// The category File System and its tweaks except Files and Shortcuts: caching, disk
+// maintenance, NTFS, AutoRun, CD burning and the Recycle Bin.
 #include "catalogue/Units.h"
 #include "catalogue/filesystem/FileSystemKeys.h"
 #include "pages/PageContext.h"
@@ -11,7 +10,7 @@
 namespace korvane {
 namespace {
 
-// ---- 124: without a selection the combo's index -1 is written: meant so, as in 141.
+// ---- 124. Intended, as in 141: no choice writes 0xFFFFFFFF.
 constexpr NumberEntry kCacheUses[] = {{"Desktop Computers", 0}, {"Network Servers", 1}};
 constexpr Choice kCacheUse[] = {
     {.label = "Optimize System Cache for:",
@@ -27,7 +26,7 @@ constexpr CheckBox kBootOptimization[] = {
                            .checked = "Y",
                            .cleared = "N"}}};
 
-// ---- 139: the index counts from 0, the stored number from 1; so no selection is written as 0.
+// ---- 139: the stored number is the index plus 1, so that no choice writes 0.
 constexpr NumberEntry kTableZones[] = {{"Small Zone Reservation (Default)", 1},
                                        {"Medium Zone Reservation", 2},
                                        {"Large Zone Reservation", 3},
@@ -55,7 +54,7 @@ constexpr CheckBox kKeepPermissions[] = {
     {.text = "Force Windows to preserve the current permissions instead.",
      .binding = DwordCheckState{.key = kFileSystemPolicies, .name = "ForceCopyAclwithFile"}}};
 
-// ---- 146: the policy key is made for all users alone, and the two texts end differently: meant so.
+// ---- 146. Intended: only the key for all users is created, and the two texts end differently.
 constexpr std::string_view kNoBurning = "NoCDBurning";
 constexpr CheckBox kBurning[] = {
     {.text = "Disable CD Burning (Current User).",
@@ -76,7 +75,7 @@ constexpr CheckBox kEncryption[] = {
      .binding = DwordCheckState{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\EFS"},
                                 .name = "EfsConfiguration"}}};
 
-// ---- 152: a row for each drive that cannot be taken out, and A: and ALL always.
+// ---- 152: a row for each drive that is not removable, and always one for A: and one for ALL.
 constexpr TableColumn kDriveColumns[] = {{"Drive", 372}};
 constexpr Table kDriveList{.columns = kDriveColumns};
 constexpr std::uint32_t kRemovable = 2;
@@ -217,7 +216,7 @@ constexpr Tweak kTweaks[] = {
      .note = kRestartOrLogOutNote,
      .gate = kGateNt},
     {.id = 144,
-     .title = "Change Drive Name and Icon",  // same title as record 106, on purpose
+     .title = "Change Drive Name and Icon",  // Intended: the title of item 106 too.
      .description =
          "Gives a drive letter a name and an icon of its own in Explorer. It makes partitions, card readers and "
          "network drives easier to tell apart without changing the label of the disk."},

@@ -1,5 +1,5 @@
-// The Login and Authentication tweaks: what the login screen shows, who may log
-// in without typing a password, and how a locked computer is unlocked.
+// The Login and Authentication tweaks: what the login screen shows, automatic
+// login, and how a locked computer is unlocked.
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
 #include "pages/PageLayout.h"
@@ -10,7 +10,7 @@
 namespace korvane {
 namespace {
 
-// The notes differ in small ways: meant so.
+// Intended: the notes differ in small ways.
 constexpr std::string_view kNote =
     "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
 constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect";
@@ -24,14 +24,14 @@ constexpr std::string_view kUnlockNote =
     "For Windows XP this behavior only happens when you have Fast User Switching disabled.";
 
 constexpr KeyPath kWinlogon{Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"};
-// The desktop behind the login dialog.
+// The desktop of the login screen.
 constexpr KeyPath kLoginDesktop{Root::Users, ".DEFAULT\\Control Panel\\Desktop"};
 
 constexpr CheckBox kFastSwitching[] = {
     {.text = "Enable Fast User Switching .",
      .binding = DwordCheckState{.key = kWinlogon, .name = "AllowMultipleTSSessions"}}};
 
-// ---- 158: the second box is the opposite of its value, which is absent while the box is checked.
+// ---- 158: the second box is inverted: it is checked unless the value is "1", and checked deletes the value.
 constexpr std::string_view kForceAutoLogon = "ForceAutoLogon";
 constexpr CheckBox kAutoLoginBoxes[] = {{.text = "Login automatically at system startup.",
                                          .binding = StringFlag{.key = kWinlogon, .name = "AutoAdminLogon"}},
@@ -58,7 +58,7 @@ void applyAutoLogin(PageContext& context) {
     }
 }
 
-// ---- 159: the box switches the fields, but a cleared box does not keep them from being written.
+// ---- 159: the box enables the fields, but they are written even if it is cleared.
 constexpr std::string_view kSaverActive = "ScreenSaveActive";
 constexpr std::string_view kSaverProgram = "SCRNSAVE.EXE";
 constexpr CheckBox kLoginSaverBox[] = {{.text = "Enable Login Screen Saver."}};
@@ -77,8 +77,8 @@ void showLoginSaver(PageContext& context) {
     }
 }
 
-// The login screen looks for the program in the system folder, so a path there is cut off; the folder's name in other
-// letter cases stays.
+// The login screen looks for the program in the system folder, so that folder's path is removed; in any other letter
+// case it stays.
 std::string withoutSystemFolder(PageContext& context, std::string program) {
     const std::string windows = context.platform.folders.windowsFolder();
     if (!windows.empty()) {
@@ -110,7 +110,7 @@ constexpr Choice kLoginWindow[] = {
     {.label = "Login Window Type:",
      .binding = DwordChoice{.key = kWinlogon, .name = "LogonType", .entries = kLoginWindows}}};
 
-// ---- 161: a wallpaper would cover the colour, so it goes, whatever the colour is.
+// ---- 161: a wallpaper would cover the colour, so every apply removes it.
 constexpr std::string_view kWallpaper = "Wallpaper";
 constexpr std::string_view kNone = "(None)";
 constexpr KeyPath kDesktopColours{Root::Users, ".DEFAULT\\Control Panel\\Colors"};
@@ -119,7 +119,7 @@ constexpr ColourField kBackground{.label = "Login Screen Color (RGB):",
 
 constexpr FixedText kNoWallpaper[] = {{kLoginDesktop, kWallpaper, kNone}};
 
-// ---- 162: a pattern would show beside the wallpaper, so it goes each time.
+// ---- 162: a pattern would show around the wallpaper, so every apply removes it.
 constexpr Field kWallpaperField[] = {
     {.label = "Default Wallpaper(*.bmp):",
      .binding = StringValue{.key = kLoginDesktop, .name = kWallpaper, .whenEmpty = WhenEmpty::WritesNothing},
@@ -134,7 +134,7 @@ constexpr Field kDialogTitle[] = {
     {.label = "Dialog Title:",
      .binding = StringValue{.key = kWinlogon, .name = "Welcome", .whenEmpty = WhenEmpty::WritesNothing}}};
 
-// How often Windows has reminded; after the tenth time it stops.
+// The number of reminders so far; Windows stops after the tenth.
 constexpr std::byte kTenReminders[] = {std::byte{10}, std::byte{0}, std::byte{0}, std::byte{0}};
 constexpr std::byte kOneReminder[] = {std::byte{1}, std::byte{0}, std::byte{0}, std::byte{0}};
 constexpr CheckBox kPassport[] = {
@@ -159,7 +159,7 @@ constexpr CheckBox kShutdown[] = {
          DwordCheckState{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\policies\\system"},
                          .name = "ShutdownWithoutLogon"}}};
 
-// A number here, the text "1" in 158: meant so.
+// Intended: a number here, the text "1" in 158.
 constexpr CheckBox kForceAutoLogin[] = {
     {.text = "Force Auto-Login.", .binding = DwordCheckState{.key = kWinlogon, .name = kForceAutoLogon}}};
 
@@ -181,7 +181,7 @@ constexpr CheckBox kWelcomeScreen[] = {
          .key = {Root::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"},
          .name = "NoWelcomeScreen"}}};
 
-// ---- 171: any Windows but NT, known or not, has its own place.
+// ---- 171: Windows NT 4, 2000 and XP have one key; any other version, known or not, has the other.
 constexpr KeyPath kLegalNoticeKey{.root = Root::LocalMachine,
                                   .path = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Winlogon",
                                   .otherOn = kWindowsNT,
@@ -191,7 +191,7 @@ constexpr Field kLegalNotice[] = {
     {.label = "Notice Text:", .binding = StringValue{.key = kLegalNoticeKey, .name = "LegalNoticeText"}}};
 constexpr int kTextThenTitle[] = {IDC_EDIT2, IDC_EDIT1};
 
-// ---- 172: a number on Windows XP and a text before it; either is shown as a number.
+// ---- 172: stored as REG_DWORD on Windows XP and as REG_SZ before; both are shown as a number.
 constexpr std::string_view kAutoLogonCount = "AutoLogonCount";
 constexpr Field kAutoLoginCount[] = {{.label = "Number of Automatic Logins:"}};
 
@@ -445,7 +445,7 @@ constexpr Tweak kTweaks[] = {
      .note = kNote,
      .gate = kGateNt},
     {.id = 174,
-     .title = "Show Administrator on the Welcom Screen",  // spelled so on purpose
+     .title = "Show Administrator on the Welcom Screen",  // Intended: spelled so.
      .description =
          "The Windows XP Welcome screen leaves out the built-in Administrator account once other accounts exist. "
          "This setting lists it there beside the others, for people who often have to work as Administrator."},

@@ -1,5 +1,5 @@
-// The Documents and Folders tweaks: the list of recent documents, and which
-// folders the Start menu opens as cascading menus.
+// The Documents and Folders tweaks: the list of recent documents, and which folders
+// are cascading menus of the Start menu.
 #include "catalogue/Units.h"
 #include "catalogue/startmenu/StartMenuKeys.h"
 
@@ -11,7 +11,7 @@ constexpr std::string_view kSubfoldersNote =
     "draged "
     "into the start menu. In the Classic Mode of the Start Menu, your Custom subfolders will appear in the most upper "
     "section of the Start Menu, while in the Ordinary Mode, they will appear in the most upper section of the Programs "
-    "List.";  // "draged": spelled so on purpose
+    "List.";  // Intended: "draged" is spelled so.
 
 constexpr DwordNumber kDocumentCount{.key = kShellPolicies, .name = "MaxRecentDocs", .whenEmpty = WhenEmpty::Deletes};
 constexpr Field kRecentDocuments[] = {
@@ -23,15 +23,15 @@ constexpr auto kClearRecent =
     ScopePair("Clear Recent Documents on Exit (Current User).", "Clear Recent Documents on Exit (All Users).",
               shellPolicy("ClearRecentDocsOnExit"));
 
-// The policy key is made for all users alone: meant so.
+// Intended: only the key for all users is created.
 constexpr std::string_view kNoSubfolders = "NoStartMenuSubFolders";
 constexpr CheckBox kSubfolders[] = {
     {.text = "Do not display Start Menu Subfolders (Current User).", .binding = shellPolicy(kNoSubfolders)},
     {.text = "Do not display Start Menu Subfolders (All Users).",
      .binding = DwordCheckState{.key = kShellPolicies.under(Root::LocalMachine).madeWhole(), .name = kNoSubfolders}}};
 
-// 182 to 186 share the values of 210, where 2 is a menu, 1 a plain entry and 0 none. A cleared box writes 0 and so
-// takes the folder off the Start menu: meant so.
+// 182 to 186 use the values of 210, where 2 is a menu, 1 a plain entry and 0 no entry. Intended: cleared writes 0,
+// which removes the folder from the Start menu.
 constexpr DwordFlag cascading(std::string_view name) {
     return {.key = kShellAdvanced, .name = name, .checked = 2, .cleared = 0};
 }

@@ -1,5 +1,5 @@
-// The top of Start Menu and Taskbar and the Start menu's own tweaks: which
-// entries and lists it shows, and how they are arranged.
+// The category Start Menu and Taskbar and the tweaks of the Start menu: its entries
+// and lists, and their order.
 #include "catalogue/Units.h"
 #include "catalogue/startmenu/StartMenuKeys.h"
 #include "pages/PageContext.h"
@@ -14,15 +14,15 @@ constexpr CheckBox kRunCommands[] = {
     {.text = "Clear Cached Run Commands.",
      .binding = SubkeyFlag{.parent = kExplorer, .name = "RunMRU", .checkedWhenAbsent = true}}};
 
-// ---- 197: for every user whose settings are loaded, the login screen included.
+// ---- 197: for every loaded user hive, that of the login screen included.
 constexpr CheckBox kScrolling[] = {{.text = "Enable Start Menu Scrolling (Classic mode)."},
                                    {.text = "Enable Start Menu Scrolling (Ordinary mode)."}};
 constexpr std::string_view kClassicScrolling = "StartMenuScrollPrograms";
 constexpr std::string_view kOrdinaryScrolling = "Start_ScrollPrograms";
-// The alert's text names 98 and Me, which this gate refuses: meant so.
+// Intended: the alert's text names 98 and Me, which this gate refuses.
 constexpr Gate kGate2000XpNaming98{kWin2000 | kWinXP, Alert::Only98Me2000Xp};
 
-// Calls visit(key) for the Explorer settings of every hive that has them.
+// Calls visit(key) with the Explorer settings of every hive that has them.
 template <typename Visit>
 void forEachUser(PageContext& context, Visit visit) {
     Registry& registry = context.platform.registry;
@@ -38,7 +38,7 @@ void forEachUser(PageContext& context, Visit visit) {
     }
 }
 
-// One hive's "Yes" checks the first box for good; the second shows what the last hive holds: meant so.
+// Intended: the first box is checked if any hive has "Yes"; the second shows the last hive's value.
 void showScrolling(PageContext& context) {
     Registry& registry = context.platform.registry;
     forEachUser(context, [&](const OpenedKey& key) {
@@ -92,13 +92,13 @@ constexpr auto kFavorites =
     ScopePair("Show Favorites on the Start Menu (Current User).", "Show Favorites on the Start Menu (All Users).",
               DwordCheckState{.key = kShellAdvanced, .name = "StartMenuFavorites"});
 
-// ---- 208: the n-th application by name is the n-th row, when shown and when applied.
+// ---- 208: in show and apply alike, the n-th application with ".exe" in its name is the n-th row.
 constexpr TableColumn kProgramColumns[] = {{"Program", 372}};
 constexpr Table kPrograms{
     .columns = kProgramColumns,
     .binding = ApplicationRows{.name = "NoStartPage", .counts = ApplicationRows::Counts::NamedExe}};
 
-// ---- 209: without its stored order a menu is sorted.
+// ---- 209: a menu without a stored order is sorted.
 constexpr SubkeyFlag menuOrder(std::string_view name) {
     return {.parent = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\MenuOrder"},
             .name = name,
@@ -109,7 +109,7 @@ constexpr CheckBox kSorted[] = {{.text = "Sort Start Menu in Alphabetical Order 
                                 {.text = "Sort Favorites in Alphabetical Order .", .binding = menuOrder("Favorites")}};
 constexpr int kFavoritesFirst[] = {IDC_CHECK2, IDC_CHECK1};
 
-// ---- 210: the colons that are missing are meant so.
+// ---- 210. Intended: the last two labels have no colon.
 constexpr NumberEntry kFolderModes[] = {{"Hidden", 0}, {"Open when clicked", 1}, {"Expand contents", 2}};
 constexpr DwordChoice folderMode(std::string_view name) {
     return {.key = kShellAdvanced, .name = name, .entries = kFolderModes, .initial = 1};
@@ -131,7 +131,7 @@ constexpr Tweak kTweaks[] = {
      .treeParent = kTreeRoot,
      .page = Page::Category},
     {.id = 196,
-     .title = "Clear the Cashed Run Commands",  // spelled so on purpose
+     .title = "Clear the Cashed Run Commands",  // Intended: spelled so.
      .description =
          "Deletes the list of commands that the current user has typed into the Run dialog, so that nobody can look "
          "them up. The box is checked while there is no such list. Applying it cleared deletes nothing: it only "
@@ -168,7 +168,7 @@ constexpr Tweak kTweaks[] = {
      .note = kShellNote,
      .gate = kGateXp},
     {.id = 199,
-     .title = "Remove'All Programs'Button from the Start Menu",  // spelled so on purpose
+     .title = "Remove'All Programs'Button from the Start Menu",  // Intended: spelled so.
      .description =
          "Removes the All Programs button of the Windows XP Start menu, so that users can start only what is "
          "pinned or recently used. Meant for computers with a few permitted programs.",
@@ -227,7 +227,7 @@ constexpr Tweak kTweaks[] = {
      .note = kShellNote,
      .gate = kGateXp},
     {.id = 205,
-     .title = "Remove Unlock Computer From the Start Menu",  // says Unlock, means Undock: meant so
+     .title = "Remove Unlock Computer From the Start Menu",  // Intended: says Unlock, means Undock.
      .description =
          "Removes the Undock Computer command, which ejects a portable from its docking station, from the Start "
          "menu. The title says Unlock, but locking the computer is not touched.",

@@ -1,5 +1,4 @@
-// What the tweaks of the Start menu and the taskbar share: their keys, their note
-// and a gate.
+// The keys, the note and the gate that the tweaks of Start menu and taskbar share.
 #pragma once
 
 #include "pages/Tweak.h"
@@ -9,11 +8,11 @@ namespace korvane {
 constexpr KeyPath kShellPolicies{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
 constexpr KeyPath kShellAdvanced{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"};
 
-// The small letter is meant so.
+// Intended: a small letter.
 constexpr std::string_view kShellNote =
     "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
 
-// The alert's text names Me, which this gate refuses: meant so.
+// Intended: the alert's text names Me, which this gate refuses.
 constexpr Gate kGate2000XpNamingMe{kWin2000 | kWinXP, Alert::Only2000MeXp};
 
 constexpr DwordCheckState shellPolicy(std::string_view name) { return {.key = kShellPolicies, .name = name}; }

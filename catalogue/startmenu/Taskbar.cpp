@@ -1,5 +1,5 @@
-// The Taskbar tweaks: grouping of buttons, the notification area, balloon tips
-// and what the user may change with the mouse.
+// The Taskbar tweaks: grouping of buttons, the notification area, balloon tips, and
+// what users may change with the mouse.
 #include "catalogue/Units.h"
 #include "catalogue/startmenu/StartMenuKeys.h"
 #include "pages/PageContext.h"
@@ -31,10 +31,11 @@ constexpr auto kGrouping =
               DwordCheckState{.key = kShellAdvanced, .name = "TaskbarGlomming"});
 constexpr CheckBox kLocked[] = {{.text = "Lock the Size and Position of the Taskbar.",
                                  .binding = DwordFlagInverted(kShellAdvanced, "TaskbarSizeMove")}};
-// The alert's text names Me, which this gate refuses: meant so.
+// Intended: the alert's text names Me, which this gate refuses.
 constexpr Gate kGateXpNamingMe{kWinXP, Alert::OnlyMeXp};
 
-// ---- 195: shown as a number, written as binary data, and in one fixed profile as well, whoever the user is: meant so.
+// ---- 195. Intended: shown as a number but written as binary data, and written to one fixed profile as well, whoever
+// the user is.
 constexpr CheckBox kBannerBox[] = {
     {.text = "Hide the arrow and\"Click here to start\"caption.", .binding = shellPolicy("NoStartBanner")}};
 constexpr std::byte kNoBanner[] = {std::byte{1}, std::byte{0}, std::byte{0}, std::byte{0}};
@@ -58,7 +59,7 @@ constexpr Tweak kTweaks[] = {
      .treeParent = 177,
      .page = Page::Category},
     {.id = 188,
-     .title = "Automatically Hide in Active Tray Icons",  // spelled so on purpose
+     .title = "Automatically Hide in Active Tray Icons",  // Intended: spelled so.
      .description =
          "Windows XP can tuck away the icons beside the clock that have not been used for a while. Check this to "
          "keep the notification area short, or clear it to see every icon all the time. It applies to the current "
@@ -80,7 +81,7 @@ constexpr Tweak kTweaks[] = {
      .note = kShellNote,
      .gate = kGateXp},
     {.id = 190,
-     .title = "Clear Past Icons from the Try Notification Area",  // spelled so on purpose
+     .title = "Clear Past Icons from the Try Notification Area",  // Intended: spelled so.
      .description =
          "Windows XP remembers every icon that ever stood in the notification area and offers it in the Customize "
          "list as a past item. This setting empties that history, which fills up with programs removed long ago."},
@@ -104,7 +105,7 @@ constexpr Tweak kTweaks[] = {
      .boxes = kContextMenus,
      .note = kShellNote},
     {.id = 193,
-     .title = "Group Similar Taskbar Bottons",  // spelled so on purpose
+     .title = "Group Similar Taskbar Bottons",  // Intended: spelled so.
      .description =
          "Collects the windows of one program under a single taskbar button when space runs short. Turn it off if "
          "you prefer a separate button for every window; choose for the current user, for all users or both.",

@@ -1,12 +1,13 @@
 // The Scripts tweaks: whether login, logoff, startup and shutdown scripts are
-// seen and waited for, and how far script files are trusted. Not in the tree.
+// visible and run synchronously, and which script files are trusted. The category
+// is not in the tree.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
 namespace korvane {
 namespace {
 
-// ---- 228: the first entry stands for every verb that the others do not name.
+// ---- 228: any other default verb shows as the first entry.
 constexpr TextEntry kActions[] = {{"Open", "Open"}, {"Edit", "Edit"}, {"Open with Command Prompt", "Open2"}};
 constexpr StringChoice defaultVerb(std::string_view classShell) {
     return {.key = {Root::ClassesRoot, classShell},
@@ -35,7 +36,7 @@ constexpr auto kSignaturePolicy =
 constexpr KeyPath kPolicies{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies", "System"};
 constexpr KeyPath kMachinePolicies = kPolicies.under(Root::LocalMachine);
 
-// The blank before most of the full stops is meant so.
+// Intended: a space before most of the full stops.
 constexpr CheckBox kLegacyLogin[] = {
     {.text = "Hide the Legacy Login Scripts .", .binding = PolicyDwordFlag(kPolicies, "HideLegacyLogonScripts")}};
 constexpr CheckBox kLogoff[] = {
@@ -56,7 +57,7 @@ constexpr auto kLoginSetting =
               DwordCheckState{.key = {Root::CurrentUser, "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Winlogon"},
                               .name = "RunLogonScriptSync"});
 
-// The value says "one after the other", the box the opposite.
+// The value means "synchronously", the box the opposite.
 constexpr CheckBox kStartupAtOnce[] = {{.text = "Run the Startup Scripts Asynchronously .",
                                         .binding = DwordFlagInverted(kMachinePolicies, "RunStartupScriptSync")}};
 

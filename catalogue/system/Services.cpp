@@ -1,5 +1,6 @@
-// The Services tweaks: services that can be switched off, time synchronization,
-// and the memory and desktop access that services get. Not in the tree.
+// The Services tweaks: services that can be disabled, time synchronisation, the
+// memory of the Server service, and access to the desktop. The category is not in
+// the tree.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
@@ -8,14 +9,14 @@
 namespace korvane {
 namespace {
 
-// How the service manager starts a service.
+// Start types of a service.
 constexpr std::uint32_t kManual = 3;
 constexpr std::uint32_t kDisabled = 4;
 constexpr DwordFlag disabledService(std::string_view serviceKey) {
     return {.key = {Root::LocalMachine, serviceKey}, .name = "Start", .checked = kDisabled, .cleared = kManual};
 }
 
-// The blank before most of the full stops is meant so.
+// Intended: a space before most of the full stops.
 constexpr CheckBox kDcom[] = {
     {.text = "Disable Distributed Component Object Model (DCOM) .",
      .binding = StringFlag{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Ole"},
@@ -34,7 +35,7 @@ constexpr CheckBox kGatewaySearch[] = {
                           .clearedDeletesByPath = true}},
 };
 
-// ---- 243: two services behind one box, which is checked only when both are disabled.
+// ---- 243: one box for two services; it is checked only if both are disabled.
 constexpr CheckBox kPlugAndPlay[] = {{.text = "Disable Universal Plug and Play Services ."}};
 constexpr CheckBinding kPlugAndPlayServices[] = {disabledService("SYSTEM\\CurrentControlSet\\Services\\SSDPSRV"),
                                                  disabledService("SYSTEM\\CurrentControlSet\\Services\\upnphost")};
@@ -55,7 +56,7 @@ void applyPlugAndPlay(PageContext& context) {
     }
 }
 
-// ---- 244: Windows XP has a key and a value of its own for its time server.
+// ---- 244: Windows XP has its own key and value for the time server.
 constexpr KeyPath kTimeParameters{Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Services\\W32Time\\Parameters"};
 constexpr KeyPath kTimeProvider{Root::LocalMachine,
                                 "SYSTEM\\CurrentControlSet\\Services\\W32Time\\TimeProviders\\NtpServer"};
@@ -89,7 +90,7 @@ constexpr CheckBox kInteractive[] = {
                                 .name = "NoInteractiveServices"}},
 };
 
-// ---- 249: a combo without a selection leaves its value alone. The large periods are codes of the time service.
+// ---- 249: no choice leaves the value alone. The large periods are codes of the time service.
 constexpr Field kTimeSource[] = {
     {.label = "Time Server:", .binding = StringValue{.key = kTimeParameters, .name = "NtpServer"}}};
 constexpr NumberEntry kPeriods[] = {

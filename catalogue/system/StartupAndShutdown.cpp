@@ -1,5 +1,5 @@
-// The Start up and Shutdown tweaks: what happens between power-on and the
-// desktop, after a stop error, and to programs that hang at shutdown.
+// The Start up and Shutdown tweaks: what happens while Windows starts and shuts
+// down, after a stop error, and to programs that hang at shutdown.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
@@ -15,7 +15,7 @@ constexpr auto kUndock = ScopePair(
     DwordCheckState{.key = {Root::CurrentUser, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Policies\\System"},
                     .name = "UndockWithoutLogon"});
 
-// ---- 213: every other stored time shows as the default, and no selection is written as that.
+// ---- 213: any other stored time shows as the default, and no choice writes the default.
 constexpr CheckBox kEndTasks[] = {
     {.text = "Automatically end tasks that are not responding.",
      .binding = StringFlag{.key = kDesktop.writtenAlsoTo(kLoginDesktop), .name = "AutoEndTasks"}},
@@ -28,7 +28,7 @@ constexpr TextEntry kWaitingTimes[] = {
     {"20 seconds (Default)", "20000"},
     {"30 seconds", "30000"},
     {"1 minute", "60000"},
-    {"5 minuts", "300000"},  // spelled so on purpose
+    {"5 minuts", "300000"},  // Intended: spelled so.
 };
 constexpr int kDefaultTime = 4;
 constexpr Choice kWaitingTime[] = {
@@ -42,7 +42,7 @@ constexpr Choice kWaitingTime[] = {
                              .noneText = kWaitingTimes[kDefaultTime].stored}},
 };
 
-// The blank before most of the full stops is meant so.
+// Intended: a space before most of the full stops.
 constexpr CheckBox kAutoReboot[] = {
     {.text = "Automatically Reboot on the 'Blue Screen of Death' .",
      .binding = DwordCheckState{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\CrashControl"},
@@ -54,7 +54,7 @@ constexpr CheckBox kClearPageFile[] = {
                                         "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management"},
                                 .name = "ClearPageFileAtShutdown"}},
 };
-// The value's name lacks a letter: meant so.
+// Intended: the name of the value lacks an "r".
 constexpr CheckBox kShiftKey[] = {{.text = "Disable Ability to Skip Startup Programs .",
                                    .binding = DwordCheckState{.key = kWinlogon, .name = "IgnoreShiftOveride"}}};
 constexpr CheckBox kModem[] = {
@@ -93,7 +93,7 @@ constexpr CheckBox kPowerdown[] = {
 constexpr CheckBox kAutoexec[] = {{.text = "Enable Reading Environment Variables in Autoexec.bat File .",
                                    .binding = StringFlag{.key = kWinlogon, .name = "ParseAutoexec"}}};
 
-// ---- 225: whatever is typed is written; only an empty text is refused, after the date has been recorded.
+// ---- 225: any text is written as it is typed; only an empty one is refused, after the date has been recorded.
 constexpr Field kResponseTime[] = {
     {.label = "Time in milliseconds (1000=1 second):",
      .binding = StringValue{.key = kDesktop.writtenAlsoTo(kLoginDesktop), .name = "HungAppTimeout"},
@@ -104,7 +104,7 @@ constexpr Field kResponseTime[] = {
 constexpr Tweak kTweaks[] = {
     {.id = 211,
      .title = "Start up and Shutdown",
-     .description = "Enhancements for System Starup Shutdown",  // spelled so on purpose
+     .description = "Enhancements for System Starup Shutdown",  // Intended: spelled so.
      .category = true,
      .image = 21,
      .treeParent = kTreeRoot,
@@ -130,7 +130,7 @@ constexpr Tweak kTweaks[] = {
      .choices = kWaitingTime,
      .note = kRestartWindowsNote},
     {.id = 214,
-     .title = "Automatically Reboot on the'Blue Screen of Death'",  // spelled so on purpose
+     .title = "Automatically Reboot on the'Blue Screen of Death'",  // Intended: spelled so.
      .description =
          "After a stop error, the 'blue screen', Windows can restart by itself instead of waiting for someone to "
          "press a key. Good for servers that run unattended; clear it when you need time to read the error text.",

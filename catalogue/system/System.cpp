@@ -1,5 +1,6 @@
-// The top of System and its single tweaks: 16-bit programs, memory, updates,
-// devices and the keyboard. Most of them are not in the tree.
+// The category System and those of its tweaks that are in no subcategory: 16-bit
+// programs, memory, updates, devices and the keyboard. Most of them are not in the
+// tree.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
@@ -13,7 +14,7 @@ constexpr KeyPath kSessionManager{Root::LocalMachine, "SYSTEM\\CurrentControlSet
 constexpr KeyPath kMemoryManagement{Root::LocalMachine,
                                     "SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Memory Management"};
 
-// The blank before most of the full stops is meant so.
+// Intended: a space before most of the full stops.
 constexpr auto kComponentDownload = ScopePair(
     "Enable Automatic Download of COM Components (Current User).",
     "Enable Automatic Download of COM Components (All Users).",
@@ -54,7 +55,7 @@ constexpr CheckBox kSeparateMachine[] = {
                            .compare = Compare::IgnoreCase}},
 };
 
-// ---- 263: each row's value is one more than the number that it stores: meant so.
+// ---- 263. Intended: the value named in a row is one more than the number that it stores.
 constexpr TableColumn kErrorColumns[] = {{"Value", 109}, {"Description", 290}};
 constexpr std::string_view kErrorModes[] = {"1", "All errors appear in popups (Default)",
                                             "2", "System errors disabled, application errors still using popups",
@@ -65,8 +66,8 @@ constexpr Table kErrorTable{
     .binding = DwordRowChoice{.key = {Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Windows"},
                               .name = "ErrorMode"}};
 
-// ---- 264: version and flags, the number of entries, each Windows key (scan codes E0 5B and E0 5C) mapped to nothing,
-// and the entry that ends the map; each number with its low byte first.
+// ---- 264: a scancode map: version, flags, the number of entries, two entries that map the Windows keys (E0 5B and E0
+// 5C) to nothing, and the terminating entry; all numbers little-endian.
 constexpr auto kNoWindowsKeys = [] {
     std::array<std::byte, 24> map{};
     std::size_t at = 0;
@@ -117,7 +118,7 @@ constexpr CheckBox kUsbPolling[] = {
                           .clearedDeletes = true}},
 };
 
-// ---- 270: a combo without a selection removes its policy.
+// ---- 270: no choice deletes the policy.
 constexpr NumberEntry kUpdateStates[] = {{"Enabled", 0}, {"Disabled", 1}};
 constexpr NumberEntry kUpdateModes[] = {{"Notify before download and before install", 2},
                                         {"Download automatically and notify before install", 3},
@@ -143,7 +144,7 @@ constexpr Choice kAutomaticUpdates[] = {
     {.label = "Install Time:", .binding = updatePolicy("ScheduledInstallTime", kUpdateHours)},
 };
 
-// No blanks beside the second quotation mark and the bracket: meant so.
+// Intended: no spaces after the second quotation mark and before the bracket.
 constexpr auto kMemorySpace = ScopePair(
     "\"Run in Separate Memory Space\"is shown in the Run box(Current User).",
     "\"Run in Separate Memory Space\"is shown in the Run box(All Users).",

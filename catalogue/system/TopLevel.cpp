@@ -1,5 +1,5 @@
-// The tweaks that stand in the tree below no category: folder locations, the
-// registered owner and the Alt+Tab window. The last number is kept in reserve.
+// The tweaks without a category: folder locations, the registered owner and the
+// Alt+Tab window. The last ItemId is reserved.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
@@ -29,7 +29,7 @@ constexpr Field kSourcePath[] = {
      .picker = Picker::Folder},
 };
 
-// ---- 308: only Windows 95, 98 and Me record the date: meant so.
+// ---- 308. Intended: the date is recorded on Windows 95, 98 and Me only.
 constexpr KeyPath kRegistration{.root = Root::LocalMachine,
                                 .path = "SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion",
                                 .otherOn = kWindows9x,
@@ -42,7 +42,7 @@ constexpr Field kOwner[] = {
          StringValue{.key = kRegistration, .name = "RegisteredOrganization", .whenEmpty = WhenEmpty::WritesNothing}},
 };
 
-// ---- 309: the window is turned on whatever is chosen, and "-1" is written for a combo without a selection: meant so.
+// ---- 309. Intended: every apply turns the window on, and no choice writes "-1".
 constexpr KeyPath kDesktop{Root::CurrentUser, "Control Panel\\Desktop"};
 constexpr StringChoice coolSwitch(std::string_view name) {
     return {.key = kDesktop, .name = name, .range = {.first = 0, .last = 99}, .initial = 0};

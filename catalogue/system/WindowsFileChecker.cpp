@@ -1,5 +1,5 @@
-// The Windows File Checker tweaks: when the protected system files are checked
-// and where their cached copies are kept.
+// The Windows File Checker tweaks: when the protected system files are scanned and
+// where their cached copies are kept.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 #include "pages/TweakEngine.h"
@@ -8,7 +8,7 @@
 namespace korvane {
 namespace {
 
-// Every value stands in two places and both are written; the policy is the one that is shown.
+// Every value is written in two keys; the one in the policy key is shown.
 constexpr std::string_view kPolicyParent = "SOFTWARE\\Policies\\Microsoft\\Windows NT";
 constexpr std::string_view kPolicyName = "Windows File Protection";
 constexpr KeyPath kPolicy{Root::LocalMachine, {}, "SOFTWARE\\Policies\\Microsoft\\Windows NT\\Windows File Protection"};
@@ -20,9 +20,9 @@ constexpr CheckBox kProgress[] = {
     {.text = "Display SFC Progress Meter .", .binding = DwordCheckState{.key = kBoth, .name = "SFCShowProgress"}},
 };
 
-// ---- Removing a value
+// ---- Deleting a value
 
-// True when the policy key was opened, or made, and has no value left.
+// True if the policy key could be opened or created and has no values left.
 bool removeFromPolicy(PageContext& context, std::string_view name) {
     Registry& registry = context.platform.registry;
     const OpenedKey policy = context.openForWriting(kPolicy);
@@ -34,7 +34,7 @@ bool removeFromPolicy(PageContext& context, std::string_view name) {
     return registry.enumerateValue(policy.handle(), 0, left) == Status::NoMoreItems;
 }
 
-// A policy key that has become empty goes as a whole, even with subkeys: meant so.
+// Intended: a policy key without values is deleted with all its subkeys.
 void removeEverywhere(PageContext& context, std::string_view name) {
     Registry& registry = context.platform.registry;
     if (removeFromPolicy(context, name)) {
@@ -63,7 +63,7 @@ void applyScanMode(PageContext& context) {
     }
 }
 
-// ---- 255: stored as a plain text, although it holds a variable: meant so.
+// ---- 255. Intended: stored as REG_SZ, although it may contain a variable.
 constexpr std::string_view kCacheFolder = "SFCDllCacheDir";
 constexpr Field kCache[] = {
     {.label = "The Directory to store cached SFC files:",

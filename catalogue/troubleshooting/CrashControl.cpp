@@ -1,5 +1,5 @@
-// The Crash Control tweaks: what Windows writes and whom it tells when the
-// system stops with an error.
+// The Crash Control tweaks: what Windows writes and whom it tells after a stop
+// error.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
@@ -8,14 +8,14 @@ namespace {
 
 constexpr KeyPath kCrashControl{Root::LocalMachine, "SYSTEM\\CurrentControlSet\\Control\\CrashControl"};
 
-// ---- 275 and 277: the number is the entry's index, and the index -1 of no selection is written like any other.
+// ---- 275 and 277: the number is the index of the entry. Intended: no choice writes 0xFFFFFFFF.
 constexpr NumberEntry kMethods[] = {{"Append", 0}, {"Overwrite", 1}};
 constexpr Choice kMethod[] = {
     {.label = "The Dump Creation Mode:",
      .binding = DwordChoice{.key = kCrashControl, .name = "Overwrite", .entries = kMethods, .initial = 0}}};
 constexpr NumberEntry kDumps[] = {{"None", 0},
                                   {"Complete memory dump", 1},
-                                  {"Kernal memory dump", 2},  // spelled so on purpose
+                                  {"Kernal memory dump", 2},  // Intended: spelled so.
                                   {"Small memory dump", 3}};
 constexpr Choice kDump[] = {
     {.label = "The Dump Creation Mode:",
@@ -23,7 +23,7 @@ constexpr Choice kDump[] = {
 
 constexpr CheckBox kEventLog[] = {{.text = "Enable Windows logs a system crash to the event log.",
                                    .binding = DwordCheckState{.key = kCrashControl, .name = "LogEvent"}}};
-// The blank before the full stop, and the one before the colon below, are meant so.
+// Intended: a space before the full stop here, and before the colon below.
 constexpr CheckBox kAlerts[] = {{.text = "Enable sending administrative alerts of system crashes .",
                                  .binding = DwordCheckState{.key = kCrashControl, .name = "SendAlert"}}};
 

@@ -1,5 +1,5 @@
-// The Logging tweaks: who may read the event logs, and what Windows records to
-// help in finding faults. Not in the tree.
+// The Logging tweaks: who may read the event logs, and what Windows logs for
+// troubleshooting. The category is not in the tree.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 #include "catalogue/accessories/InstallerLogging.h"
@@ -7,7 +7,7 @@
 namespace korvane {
 namespace {
 
-// The blank before the full stops is meant so.
+// Intended: a space before the full stops.
 constexpr DwordCheckState guestAccess(std::string_view log) {
     return {.key = {Root::LocalMachine, log}, .name = "RestrictGuestAccess"};
 }
@@ -24,7 +24,7 @@ constexpr KeyPath kPolicies{Root::LocalMachine, "Software\\Microsoft\\Windows\\C
 constexpr CheckBox kVerboseStatus[] = {
     {.text = "Show Verbose Security Status Messages .", .binding = PolicyDwordFlag(kPolicies, "VerboseStatus")}};
 
-// The low word is the level, the high word says where the messages go.
+// The low word is the level, the high word the destination.
 constexpr NumberEntry kLevels[] = {{"None", 0},
                                    {"Normal, to the Log File (Default)", 0x10001},
                                    {"Verbose, to the Log File", 0x10002},
@@ -101,7 +101,7 @@ constexpr Tweak kTweaks[] = {
      .gate = kGate2000Xp,
      .source = "KB 186454 (from general knowledge)"},
     {.id = 287,
-     .title = "Windows Installer Logging",  // same title as record 41, on purpose
+     .title = "Windows Installer Logging",  // Intended: the title of item 41 too.
      .description =
          "Makes Windows Installer log every installation with all options listed below except + and !, to find out "
          "why a setup fails. Caution: applying it unchecked also removes all other local machine policies that are "

@@ -1,5 +1,4 @@
-// The Repair tweaks: damaged shell and application settings and what puts them
-// right.
+// The Repair tweaks: fixes for damaged settings of the shell and of applications.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 #include "pages/PageContext.h"
@@ -8,7 +7,7 @@
 namespace korvane {
 namespace {
 
-// Two blanks before "in": meant so.
+// Intended: two spaces before "in".
 constexpr CheckBox kNewCommand[] = {
     {.text = "Add the New command to the right-click context menu  in Windows Explorer .",
      .binding = SubkeyFlag{.parent = {Root::ClassesRoot, "Directory\\Background\\shellex\\ContextMenuHandlers"},
@@ -26,7 +25,7 @@ constexpr CheckBox kStyleSheets[] = {
                            .compare = Compare::IgnoreCase}},
 };
 
-// ---- 292: the box shows whether a subkey is absent, but what goes is a value of that name: meant so.
+// ---- 292. Intended: the box shows whether a subkey is missing, but an apply deletes a value of that name.
 constexpr CheckBox kShortcutBar[] = {{.text = "Repair office shortcut bar."}};
 constexpr KeyPath kOffice{Root::CurrentUser, "Software\\Microsoft\\Office\\10.0"};
 constexpr KeyPath kShortcutBarKey{Root::CurrentUser, "Software\\Microsoft\\Office\\10.0\\Shortcut Bar"};

@@ -1,5 +1,6 @@
-// The top of Troubleshooting and its single tweaks: start-up state and warnings,
-// Remote Assistance, AutoRun of CDs and error reporting.
+// The category Troubleshooting and those of its tweaks that are in no subcategory:
+// start-up state and warnings, Remote Assistance, AutoRun of CDs and error
+// reporting.
 #include "catalogue/Notes.h"
 #include "catalogue/Units.h"
 
@@ -16,7 +17,7 @@ constexpr Field kSafeModeBackground[] = {
      .picker = Picker::File},
 };
 
-// An empty text stands for no sound.
+// An empty text means no sound.
 constexpr Field kMailSound[] = {
     {.label = "The Sound for New Mail:",
      .binding = StringValue{.key = {Root::CurrentUser, "AppEvents\\Schemes\\Apps\\.Default\\MailBeep\\.Current"},
@@ -26,7 +27,7 @@ constexpr Field kMailSound[] = {
      .picker = Picker::File},
 };
 
-// Other bits may be set in the stored number; then the box stays cleared and they are lost: meant so.
+// Intended: a stored number with other bits set shows as cleared, and an apply loses those bits.
 constexpr StringFlag numLockIn(const KeyPath& key) {
     return {.key = key, .name = "InitialKeyboardIndicators", .checked = "2"};
 }
@@ -37,7 +38,7 @@ constexpr CheckBox kNumLock[] = {
      .binding = numLockIn({Root::Users, ".DEFAULT\\Control Panel\\Keyboard"})},
 };
 
-// The blank before the full stops is meant so.
+// Intended: a space before the full stops.
 constexpr CheckBox kStepping[] = {
     {.text = "Enable Windows Update Stepping Mode .",
      .binding = StringFlag{.key = {Root::LocalMachine, "SOFTWARE\\Microsoft\\Active Setup"},
@@ -65,8 +66,8 @@ constexpr CheckBox kAthlon[] = {
                           .clearedDeletes = true}},
 };
 
-// ---- 303: a set bit keeps a kind of drive from running; this one stands for CDs. Without the value Windows keeps the
-// kinds of 0x95, and CDs run.
+// ---- 303: each bit turns AutoRun off for one type of drive, this one for CDs. Without the value Windows uses 0x95, so
+// that CDs do run.
 constexpr CheckBox kAutoRun[] = {
     {.text = "Run Inserted CD-ROMs Automatically .",
      .binding = MaskBit{.key = {Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"},
