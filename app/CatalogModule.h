@@ -1,5 +1,5 @@
-// One of the eleven groups of consecutive ItemIds: it owns the show and apply
-// routines of its items.
+// A catalogue module: one of the eleven groups of consecutive ItemIds, with the
+// show and apply routines of its items.
 #pragma once
 
 #include "catalogue/Catalogue.h"
@@ -13,9 +13,9 @@ public:
         : first_(group.first), last_(group.last), host_(host), platform_(platform) {}
 
     bool owns(int id) const { return id >= first_ && id <= last_; }
-    // Shows the item's page; an item without a show routine shows nothing.
+    // Shows the item's page; does nothing for an item without one.
     void Show(int id);
-    // Applies the page that Show filled; an item without an apply routine does nothing.
+    // Applies the page that Show filled; does nothing for an item that cannot be applied.
     void Apply(int id);
 
 private:

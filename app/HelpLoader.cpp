@@ -1,4 +1,4 @@
-// Loading the help library: where it is registered, else by its name.
+// Loading the help library: from where it is registered, or else by its name.
 #include "app/HelpLoader.h"
 
 #include "pages/RegistryAccess.h"

@@ -1,5 +1,5 @@
-// Opens the compiled help through a library that is loaded on first use. Once
-// loading has failed, later calls do nothing and try nothing.
+// Opens the compiled help through a library that is loaded on first use. If loading
+// fails once, later calls do not try again.
 #pragma once
 
 #include "platform/Registry.h"
@@ -13,7 +13,7 @@ class HelpLoader {
 public:
     HelpLoader(Registry& registry, HelpLibrary& library) : registry_(registry), library_(library) {}
 
-    // The help function's result for the four arguments; 0 when the library or its function is missing.
+    // Calls the help function; returns its result, or 0 if the library or the function is missing.
     std::uintptr_t call(std::uintptr_t caller, const std::string& file, unsigned command, std::uintptr_t data);
 
 private:

@@ -6,7 +6,7 @@
 namespace korvane {
 namespace {
 
-// The tree's control number: the section of the item texts. Keys are the ItemId with one of these digits behind it.
+// The section of the item texts is the control id of the tree. A key is the ItemId followed by one of these digits.
 constexpr std::string_view kItemsSection = "1004";
 constexpr char kIdDigit = '1';
 constexpr char kTitleDigit = '2';
@@ -25,7 +25,7 @@ void ItemTable::build() {
 
 void ItemTable::translate(const LanguageFile& language) {
     for (std::size_t n = 0; n < items_.size(); ++n) {
-        // Also for record 0 the digit stands behind the number: "02" is its title.
+        // For item 0 too the digit follows the number: "02" is its title.
         const auto lookUp = [&](char digit) { return language.text(kItemsSection, std::to_string(n) + digit); };
         if (const std::string id = lookUp(kIdDigit); !id.empty()) {
             items_[n].id = decimalNumber(id);

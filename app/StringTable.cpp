@@ -6,7 +6,7 @@
 namespace korvane {
 namespace {
 
-// The wording, small slips included, is what users know and what language files translate.
+// Intended: the wording, slips included; users and language files rely on it.
 constexpr StringTableEntry kStrings[] = {
     {101, "&About Korvane Manager..."},
     {2001, "A L E R T"},

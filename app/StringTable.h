@@ -1,5 +1,5 @@
-// The program's own string table: the alerts, their caption, and the entry of
-// the system menu. A language file can replace each of them.
+// The program's string table: the alerts, their caption, and the About entry of the
+// system menu. A language file can replace each text.
 #pragma once
 
 #include <span>
@@ -15,7 +15,7 @@ struct StringTableEntry {
 // In ascending order of the ids.
 std::span<const StringTableEntry> stringTable();
 
-// Empty for an id that the table does not have.
+// Empty for an id that is not in the table.
 std::string_view builtInString(int id);
 
 constexpr int kStringAboutItem = 101;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kDeletesValue = "the value is deleted";
 constexpr std::string_view kNothing = "nothing is written";
-// What a control shows without a value is told where it is not the usual empty state.
+// What a control shows if there is no value is mentioned only if it is not the usual empty state.
 constexpr std::string_view kWhenMissing = "shown when missing";
 
 void addKeys(BindingText& text, Line line, const KeyPath& key) {
@@ -24,8 +24,8 @@ void addKeys(BindingText& text, Line line, const KeyPath& key) {
     }
 }
 
-// Where a kind keeps its value: in its key, on some versions of Windows elsewhere, and perhaps in a second key, which
-// is never shown.
+// The places of a value: its key, another key on some versions of Windows, and perhaps a second key, which is never
+// shown.
 template <typename Kind>
 BindingText placesOf(const Kind& kind, ValueType type) {
     Line first;
@@ -233,7 +233,7 @@ std::string entryAt(const Choice& choice, int index) {
                                   : std::string(choice.entries[static_cast<std::size_t>(index)].text);
 }
 
-// The entries that stand for no value and for data that no entry has.
+// The entries shown for a missing value and for unknown data.
 template <typename Choice>
 void addUnusualEntries(Line& line, const Choice& choice) {
     const std::string missing = entryAt(choice, choice.initial);
@@ -348,7 +348,7 @@ BindingText describe(const CheckBox& box) {
     if (box.onVersions.empty()) {
         return text;
     }
-    // Of each version the places, and right behind them what is written there.
+    // For each version the places, followed by what is written there.
     BindingText all;
     const auto append = [&](const std::string& versions, const BindingText& part) {
         for (const TextLine& place : part.places) {

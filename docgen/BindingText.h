@@ -1,5 +1,5 @@
-// What the controls of a page stand for, told to a reader: the keys and values,
-// what each state of a control writes, and what is shown when there is no value.
+// What the controls of a page stand for, in words: the keys and values, what each
+// state of a control writes, and what is shown if there is no value.
 #pragma once
 
 #include "docgen/TextLine.h"
@@ -9,10 +9,10 @@
 
 namespace korvane {
 
-// Both empty for a control that the tweak's own routines handle.
+// Both are empty for a control without a binding.
 struct BindingText {
     std::vector<TextLine> places;
-    std::vector<TextLine> effects;  // what the states of the control write there, and unusual ways of showing it
+    std::vector<TextLine> effects;  // what each state writes there, and what is shown in unusual cases
 };
 
 BindingText describe(const CheckBox& box);
@@ -22,8 +22,8 @@ BindingText describe(const ColourField& colour);
 BindingText describe(const Table& table);
 BindingText describe(const FixedText& fixed);
 
-// Empty where the tweak's registry line names the value itself: its own routines then treat the value otherwise than
-// the binding does.
+// The text of a binding; empty if the tweak's registry line names the value, because its own routines then do something
+// else with it than the binding says.
 BindingText unlessTold(const Tweak& tweak, BindingText binding);
 
 }  // namespace korvane

@@ -1,5 +1,5 @@
-// Writing the pages. They are XHTML 1.0 without what old browsers stumble
-// over: plain ASCII, every element closed, an anchor by name and by id.
+// Writes the pages, in XHTML 1.0 that old browsers understand: plain ASCII, every
+// element closed, anchors by name and by id.
 #include "docgen/HelpPages.h"
 
 #include "docgen/BindingText.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view kGuide[] = {"start.html",     "pages.html", "reading.html", "dates.html",
                                        "languages.html", "skins.html", "kmctl.html",   "problems.html"};
 
-// More states than this are a list, fewer stand in one line.
+// Up to so many states are written in one line, more as a list.
 constexpr std::size_t kStatesInOneLine = 3;
 
 // ---- HTML
@@ -89,7 +89,7 @@ std::string label(std::string_view text) {
     return escapeHtml(result);
 }
 
-// "Note:" and its text stand in one paragraph; further lines are lines here too.
+// "Note:" and the text after it are one line; further line feeds become line breaks.
 std::string note(std::string_view text) {
     constexpr std::string_view kNewLine = "<br />\n";
     std::string result;
@@ -105,7 +105,7 @@ std::string note(std::string_view text) {
     return result;
 }
 
-// The states of a control are parted by pieces of their own.
+// The states of a control are separated by pieces of their own.
 std::string states(const TextLine& line) {
     std::vector<std::string> parts(1);
     for (const TextPiece& piece : line) {
@@ -148,7 +148,7 @@ struct ControlsText {
         text += element("dd", html(binding.places.front())) + "\n" + element("dd", states(binding.effects.front())) + "\n";
     }
 
-    // The rows of a list that stand for no number.
+    // The rows of a list without a binding.
     void addRows(const Table& table) {
         std::string rows;
         for (const TableColumn& column : table.columns) {
@@ -177,7 +177,7 @@ void addList(ControlsText& controls) {
     }
 }
 
-// In the order of the page, top to bottom.
+// From the top of the page to its bottom.
 std::string controlsOf(const Tweak& tweak) {
     ControlsText controls{.tweak = tweak};
     for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
@@ -318,7 +318,7 @@ HelpFile allTweaksPage() {
                     "\n<h1>All Tweaks from A to Z</h1>\n" + styled("p", "letters", letters) + "\n" + body + "</ul>\n");
 }
 
-// What stands between two marks; empty when they are not there.
+// The text between two marks; empty if they are missing.
 std::string_view between(std::string_view text, std::string_view start, std::string_view end) {
     const std::size_t from = text.find(start);
     const std::size_t to = from == std::string_view::npos ? from : text.find(end, from + start.size());

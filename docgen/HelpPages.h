@@ -17,20 +17,19 @@ struct HelpFile {
     bool operator==(const HelpFile&) const = default;
 };
 
-// The names of the hand-written pages, in the order in which they are to be read; the first is the start page.
+// The names of the hand-written pages in reading order; the first is the start page.
 std::span<const std::string_view> helpGuide();
 
-// All files besides the hand-written ones, which are given in the order of helpGuide: their titles and keywords go
-// into the contents and the index.
+// All generated files. The hand-written pages, in the order of helpGuide, are needed for their titles and keywords.
 std::vector<HelpFile> makeHelp(std::span<const HelpFile> guide);
 
-// The text as it stands in HTML, also between double quotation marks.
+// The text escaped for HTML, attribute values included.
 std::string escapeHtml(std::string_view text);
 
-// For sorting and comparing: ASCII letters alone.
+// For sorting and comparing; changes only ASCII letters.
 std::string lowerCase(std::string_view text);
 
-// What a page says of itself, as escaped as it is there: its <title>, and the list in <meta name="keywords">.
+// The <title> of a page and the list in its <meta name="keywords">, both still escaped.
 std::string titleOfPage(const HelpFile& page);
 std::vector<std::string> keywordsOfPage(const HelpFile& page);
 

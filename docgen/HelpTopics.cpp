@@ -1,4 +1,4 @@
-// Dealing the records out to the pages of the help.
+// Assigns the items to the pages of the help.
 #include "docgen/HelpTopics.h"
 
 #include "catalogue/Catalogue.h"

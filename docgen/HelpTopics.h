@@ -1,6 +1,6 @@
-// Which pages the help has for the catalogue, and what stands on each: one for
-// every category of the tree, one for the tweaks beside the categories, and for
-// each group one with the records that have no row in the tree.
+// The pages of the help for the catalogue, and the items on each: a page for every
+// category of the tree, one for the tweaks without a category, and for each group
+// one for the items that have no row in the tree.
 #pragma once
 
 #include <string>
@@ -11,13 +11,13 @@ namespace korvane {
 struct HelpTopic {
     std::string file;  // "command-processor.html"
     std::string title;
-    int category = -1;       // the ItemId of the category; -1 when the page is of none
-    int parent = -1;         // index of the topic above; -1: at the top
-    std::vector<int> items;  // the ItemIds described below the category, in their order
-    bool inTree = true;      // false: the records without a row in the tree
+    int category = -1;       // the ItemId of the category; -1: none
+    int parent = -1;         // index of the parent topic; -1: top level
+    std::vector<int> items;  // the ItemIds described on the page, in order
+    bool inTree = true;      // false: the items without a row in the tree
 };
 
-// In the order of the tree, parents before their children.
+// In tree order, parents before children.
 std::vector<HelpTopic> helpTopics();
 
 // The topic that describes an ItemId.

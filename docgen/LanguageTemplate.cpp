@@ -1,4 +1,4 @@
-// Writing every text under the key by which the program looks it up.
+// Writes every text with the key by which the program looks it up.
 #include "docgen/LanguageTemplate.h"
 
 #include "app/KorvaneApp.h"

@@ -1,4 +1,4 @@
-// The language file of the program's own texts: what translators start from.
+// The language file with the program's own texts, the start of a translation.
 #pragma once
 
 #include <string>

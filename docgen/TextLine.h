@@ -1,5 +1,5 @@
-// A line of text about the registry, in plain pieces, and how numbers, bytes and
-// keys are written in it. Each document marks the literal pieces in its own way.
+// A line of text about the registry, as plain pieces, and the form of numbers,
+// bytes and keys in it. Each document marks the literal pieces in its own way.
 #pragma once
 
 #include "pages/Tweak.h"
@@ -12,7 +12,7 @@ namespace korvane {
 
 struct TextPiece {
     std::string text;
-    bool literal = false;  // a key, a value's name or data: to be read letter by letter
+    bool literal = false;  // a key, the name of a value or data
 };
 
 using TextLine = std::vector<TextPiece>;
@@ -23,7 +23,7 @@ struct Line {
 
     Line& words(std::string_view text) { return add(text, false); }
     Line& literal(std::string_view text) { return text.empty() ? words("an empty text") : add(text, true); }
-    // "checked: 1; cleared: 0": the states of a control stand in one line.
+    // All states of a control are in one line: "checked: 1; cleared: 0".
     Line& state(std::string_view name) { return words(pieces.empty() ? "" : "; ").words(name).words(": "); }
     Line& state(std::string_view name, std::string_view data) { return state(name).literal(data); }
 
@@ -42,7 +42,7 @@ std::string_view shortName(Root root);
 std::string_view typeName(ValueType type);
 // A key below another; an empty path is the key itself.
 std::string below(std::string_view key, std::string_view path);
-// Decimal; large numbers are masks, codes and the -1 of "nothing", and stand in hexadecimal after "0x".
+// Decimal; large numbers, which are masks, codes and the -1 of no choice, in hexadecimal with "0x".
 std::string numberText(std::uint32_t number);
 // "0A 00 00 00"
 std::string byteText(std::span<const std::byte> data);
@@ -54,7 +54,7 @@ void addKey(Line& line, Root root, std::string_view path, std::string_view creat
 // One name, or two that belong together; an empty name is the default value.
 void addValue(Line& line, std::string_view name, std::string_view alsoName);
 
-// The pieces of a text in which literal parts stand between grave accents.
+// The pieces of a text in which literal parts are between backquotes.
 TextLine markedText(std::string_view text);
 
 // "Windows 98, Me, 2000, XP"

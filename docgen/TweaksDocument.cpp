@@ -1,4 +1,4 @@
-// Writing the catalogue as Markdown. A backslash at the end of a line is a line
+// Writes the catalogue as Markdown. A backslash at the end of a line is a line
 // break.
 #include "docgen/TweaksDocument.h"
 
@@ -41,7 +41,7 @@ states.
 
 bool isWordCharacter(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
-// Plain text as it stands; an underscore within a word needs no mark.
+// Escapes plain text; an underscore within a word needs no backslash.
 std::string escape(std::string_view text) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -71,7 +71,7 @@ std::string markdown(const TextLine& line) {
 
 // ---- A tweak
 
-// A control's text in one line without blanks at its ends, where no mark would stick to it.
+// A control's text in one line, in bold; spaces at its end would break the Markdown.
 std::string label(std::string_view text) {
     std::string result(text.substr(0, text.find_last_not_of(" \r\n") + 1));
     for (char& c : result) {
@@ -166,7 +166,7 @@ void addTweak(std::string& document, const Tweak& tweak) {
     document += '\n';
 }
 
-// In ItemId order, whatever the order of the group's units.
+// In ItemId order, whatever the order of the units.
 void addGroup(std::string& document, const CatalogueGroup& group) {
     document.append("## ").append(group.name).append("\n\n");
     std::string kept;

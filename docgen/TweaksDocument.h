@@ -1,6 +1,6 @@
-// Makes docs/TWEAKS.md from the catalogue: every tweak with the registry keys
-// and values behind it. A change of the catalogue shows in the committed
-// file's difference.
+// Generates docs/TWEAKS.md from the catalogue: every tweak with its registry keys
+// and values. The file is committed, so that a diff shows what a change of the
+// catalogue does.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// A language file: an INI file whose values replace the program's English
-// texts. What it lacks stays English; nothing about it is ever reported.
+// A language file: an INI file whose values replace the program's English texts.
+// What it lacks stays English; nothing is ever reported.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -10,22 +10,21 @@
 
 namespace korvane {
 
-// Replaces backslash-n by a line feed and backslash-t by a tab, every occurrence, left to right; every other backslash
-// stays.
+// Replaces every "\n" by a line feed and every "\t" by a tab, from left to right; any other backslash stays.
 std::string Unescape(std::string_view text);
 
 class LanguageFile {
 public:
     LanguageFile(ProfileStrings& profile, std::string path) : profile_(&profile), path_(std::move(path)) {}
 
-    // Empty when the file, the section or the key is missing, or the value is empty: a text cannot be blanked.
-    // Values are cut at 259 characters for a caption and at 1023 for everything else.
+    // Empty if the file, the section, the key or the value is missing: a text cannot be made empty. A caption is cut at
+    // 259 characters, any other value at 1023.
     std::string text(std::string_view section, std::string_view key) const { return read(section, key, 1024); }
     std::string text(std::string_view section, int key) const;
 
-    // Caption and texts of a dialog and of its direct children, by their ids; the section is the template's number.
+    // Caption of a dialog and texts of its direct children, by their ids; the section is the id of the template.
     void translateDialog(DialogControls& dialog, int templateId) const;
-    // One control's text, in a section of the caller's.
+    // The text of one control, from the given section.
     void translateControl(DialogControls& dialog, std::string_view section, int control) const;
 
 private:
@@ -35,7 +34,8 @@ private:
     std::string path_;
 };
 
-// The section with the texts of an item's page: one for each item, since the same control says something else for each.
+// The section with the texts of an item's page. Each item has its own, because the same control has a different text
+// for each.
 std::string itemSection(int id);
 
 }  // namespace korvane

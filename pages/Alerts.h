@@ -1,5 +1,5 @@
-// The alerts of the show and apply routines, by what they say. The numbers are those of the string table, which
-// language files use as keys.
+// The alerts of the show and apply routines, named by what they say. Their numbers
+// are the ids of the string table, which are keys in language files.
 #pragma once
 
 #include <cstdint>

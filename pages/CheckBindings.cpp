@@ -206,7 +206,7 @@ void show(PageContext& context, int control, const ShellVerbKey& verb) {
     }
 }
 
-// Windows of a family that the program does not know gets the menu's text as its command line: meant so.
+// Intended: on an unknown version of Windows the menu text is the command line too.
 std::string commandLine(PageContext& context, const ShellVerbKey& verb, const std::string& menuText) {
     if (verb.commandLineOn9x.empty() || kWindowsNT.contains(context.version)) {
         return std::string(verb.commandLine);

@@ -21,7 +21,7 @@ void fillEntries(PageContext& context, int combo, const auto& entries) {
     }
 }
 
-// Long lists are filled without repainting in between.
+// Long lists are filled with redrawing off.
 void fillRange(PageContext& context, int combo, const NumberRange& range) {
     constexpr std::size_t kBytesPerEntry = 6;
     context.page.setRedraw(combo, false);
@@ -59,7 +59,7 @@ int sizeOf(const Choice& choice) {
     return choice.entries.empty() ? choice.range.size() : static_cast<int>(choice.entries.size());
 }
 
-// The first entry that the stored value selects; `unknown` without one.
+// The first entry for the stored value, else `unknown`.
 int indexOf(const DwordChoice& choice, std::uint32_t number) {
     for (int index = 0; index < sizeOf(choice); ++index) {
         if (choice.entries.empty() ? number == static_cast<std::uint32_t>(choice.range.first + index)
@@ -90,7 +90,7 @@ void show(PageContext& context, int combo, const DwordChoice& choice) {
     }
 }
 
-// True when nothing is left to write for a combo without a selection.
+// True if the combo box has no choice and nothing is left to write.
 bool handledWithoutSelection(PageContext& context, const auto& choice, const KeyPath& path) {
     switch (choice.whenNone) {
         case WhenNone::Writes: return false;
@@ -187,7 +187,8 @@ bool counts(Registry& registry, const ApplicationRows& rows, const RegistryHandl
     return application && registry.openKey(application, "shell", shell) == Status::Success;
 }
 
-// Calls visit(application's key, name, row) for each that counts; the key is not open where it may not be opened.
+// Calls visit(key of the application, name, row) for each application that counts; the key is not open if it cannot be
+// opened.
 template <typename Visit>
 void forEachApplication(PageContext& context, const ApplicationRows& rows, Visit visit) {
     Registry& registry = context.platform.registry;

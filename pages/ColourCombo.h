@@ -1,5 +1,5 @@
-// The colour list: a sorted, owner-drawn drop-down list of named colours. Each
-// row's data is its colour.
+// The colour list: a sorted, owner-drawn drop-down list of named colours. The item
+// data of each entry is its colour.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -14,7 +14,7 @@ struct NamedColour {
     Colour colour;
 };
 
-// The 140 keywords of the extended HTML colour list, in alphabetical order.
+// The 140 colour keywords of HTML and CSS, in alphabetical order.
 std::span<const NamedColour> namedColours();
 
 class CColourCombo {
@@ -22,9 +22,9 @@ public:
     CColourCombo(DialogControls& page, int control) : page_(page), control_(control) {}
 
     void FillColours();
-    // Black when no row is selected.
+    // Black if no entry is selected.
     Colour GetSelectedColour() const;
-    // Selects the first row of that colour (so "Aqua", never "Cyan"). A colour that no row has leaves the selection.
+    // Selects the first entry of that colour (so "Aqua", never "Cyan"). A colour that no entry has keeps the selection.
     void SelectColour(Colour colour);
 
 private:

@@ -8,7 +8,7 @@ bool CDialog::OnInitDialog(DialogControls& controls) {
     DoDataExchange();
     const bool alive = OnInitDialog();
     if (!alive) {
-        controls_ = nullptr;  // a dialog that has ended itself must not be shown again
+        controls_ = nullptr;  // a dialog that has ended must not be shown again
     }
     return alive;
 }

@@ -1,5 +1,5 @@
-// What all dialogs of the program have in common: their controls, their skin,
-// and what ends them when the skin is refused.
+// What all dialogs of the program share: their controls and their skin. If the skin
+// engine refuses an element, the dialog ends.
 #pragma once
 
 #include "pages/PageLayout.h"
@@ -10,19 +10,19 @@
 
 namespace korvane {
 
-// The main window's services for its dialogs.
+// What the main window offers its dialogs.
 class DialogHost {
 public:
     virtual ~DialogHost() = default;
 
-    // False: the skin engine refused that element.
+    // False if the skin engine refuses the element.
     virtual bool applySkinElement(DialogControls& dialog, const SkinElement& element) = 0;
     virtual void showSkinFailure() = 0;
     virtual std::uint32_t randomSeed() = 0;
-    // True when the first box of the current item enables and disables its fields.
+    // True if the first check box of the current item enables and disables its fields.
     virtual bool boxEnablesFields() = 0;
-    // Lets the user choose what the current item wants beside that browse button; the text for the edit box, empty
-    // after a cancelled dialog.
+    // Lets the user pick what the current item requires at that browse button. Returns the text for the edit box, empty
+    // if the user cancels.
     virtual std::string browse(int button) = 0;
 };
 
@@ -32,7 +32,7 @@ public:
     CDialog(const CDialog&) = delete;
     CDialog& operator=(const CDialog&) = delete;
 
-    // Binds the controls, then initialises. False: the dialog has ended itself, after a message.
+    // Binds the controls, then initialises. False if the dialog has ended itself, after a message.
     bool OnInitDialog(DialogControls& controls) override;
     void OnClicked(int) override {}
 
@@ -40,10 +40,10 @@ public:
     bool exists() const { return controls_ != nullptr; }
 
 protected:
-    // Called once the controls exist; the base class has nothing to bind.
+    // Called once the controls exist; the base class binds none.
     virtual void DoDataExchange() {}
     virtual bool OnInitDialog() = 0;
-    // Applies the elements in turn; at the first refusal shows the message, ends the dialog and answers false.
+    // Applies the elements in turn; at the first refusal shows the message, ends the dialog and returns false.
     bool applySkin(std::span<const SkinElement> elements);
     DialogHost& host() { return host_; }
 

@@ -86,7 +86,8 @@ void apply(PageContext& context, int edit, const DwordNumber& binding, WriteRoun
 
 }  // namespace
 
-// What stands before "Application Data" in that folder's path, with its separator. Windows 95, 98 and Me have none.
+// The path of the Application Data folder up to that name, with the separator before it. Empty except on Windows NT 4,
+// 2000 and XP.
 std::string profilePrefix(const PageContext& context) {
     if (!kWindowsNT.contains(context.version)) {
         return {};

@@ -1,5 +1,6 @@
-// Version gates: on which Windows versions a tweak acts, and what it says on the others. The alerts' texts belong to
-// the string table; two of them do not match their gate.
+// Version gates: the Windows versions that a tweak accepts, and the alert on all
+// others. The texts of the alerts are in the string table; some do not match their
+// gate.
 #pragma once
 
 #include "pages/Alerts.h"
@@ -7,11 +8,11 @@
 
 namespace korvane {
 
-// The Windows versions on which an apply acts, and the alert that it shows on all others.
+// The Windows versions that a tweak accepts, and the alert that it shows on all others.
 struct Gate {
     VersionSet accepted = {};
     Alert alert = Alert::None;  // None: no gate
-    // Instead of `accepted`: every Windows but these, those that the program does not know among them.
+    // Instead of `accepted`: every version of Windows except these, unknown ones included.
     VersionSet refused = {};
 
     constexpr bool operator==(const Gate&) const = default;
@@ -30,7 +31,7 @@ constexpr Gate kGate2000Xp{kWin2000 | kWinXP, Alert::Only2000Xp};
 constexpr Gate kGate2000MeXp{kWin2000 | kWinMe | kWinXP, Alert::Only2000MeXp};
 // Intended: the alert's text names NT, which this gate refuses.
 constexpr Gate kGate2000XpNamingNt{kWin2000 | kWinXP, Alert::OnlyNt2000Xp};
-// Intended: the alert's text names XP alone, although NT 4 and 2000 pass too.
+// Intended: the alert's text names only XP, but NT 4 and 2000 pass too.
 constexpr Gate kGateNtNamingXp{kWindowsNT, Alert::OnlyXp};
 constexpr Gate kGate98Me2000Xp{kWin98 | kWinMe | kWin2000 | kWinXP, Alert::Only98Me2000Xp};
 constexpr Gate kGateNotXp{kWindows9x | kWinNT4 | kWin2000, Alert::OnlyBeforeXp};

@@ -1,5 +1,5 @@
-// What a show or apply routine reaches: its row, its page, the system, and the
-// main window's services behind a small interface.
+// What a show or apply routine works with: its tweak, its page, the platform, and
+// the main window behind a small interface.
 #pragma once
 
 #include "pages/Tweak.h"
@@ -12,8 +12,8 @@
 
 namespace korvane {
 
-// How many columns the routines have inserted into the lists of the category and check-list pages since they were last
-// cleared. One count serves both lists: the list that got columns last is the one that has them.
+// How many columns have been inserted into the lists of the category and check-list pages since they were last cleared.
+// Both lists share the count; it belongs to the one that got columns last.
 class ListColumns {
 public:
     void clear();
@@ -30,22 +30,22 @@ struct OverviewRow {
     std::string date;  // on which the tweak was last applied
 };
 
-// The main window's services for its pages.
+// What the main window offers its pages.
 class PageHost {
 public:
     virtual ~PageHost() = default;
 
-    // False for a page that could not be made; page() is for the others.
+    // False for a page that could not be created; do not call page() for it.
     virtual bool hasPage(Page page) = 0;
     virtual DialogControls& page(Page page) = 0;
     virtual void showApplyButton() = 0;
-    // Where the button stands, in the page's client area.
+    // The button's rectangle in the client coordinates of the page.
     virtual Rect applyButtonRect(Page page) = 0;
     // The item's title, ":", a line feed and its description.
     virtual std::string headerText(int id) = 0;
     virtual std::vector<OverviewRow> overviewRows(const Tweak& category) = 0;
-    // The language file's text for that key of the item's page, or, with kOverviewTexts, for all overviews; without
-    // one the given text.
+    // The language file's text for that key of the item's page or, with kOverviewTexts, of all overviews; the given
+    // text if there is none.
     virtual std::string translated(int id, const std::string& key, std::string_view text) = 0;
     virtual void stamp() = 0;
     virtual void alert(Alert alert) = 0;
@@ -66,19 +66,19 @@ public:
     const COsVersion version;
 
     bool checked(int control) const { return page.check(control) == 1; }
-    // The text in the user's language. Controls are looked up by their id ("1013"), entries of a combo by id and index
-    // ("1021.0"), headings and cells of a table by id, row (from 0; "c" for the heading) and column ("1007.0.1").
+    // The text in the user's language. Controls are looked up by their id ("1013"), entries of a combo box by id and
+    // index ("1021.0"), headings and cells of a table by id, row (from 0; "c" for the heading) and column ("1007.0.1").
     std::string translated(int control, std::string_view text) const;
     std::string translatedEntry(int combo, int index, std::string_view text) const;
     std::string translatedCell(int list, std::string_view row, int column, std::string_view text) const;
     void setText(int control, std::string_view text);  // translated
-    // What the box stands for on the running Windows.
+    // The binding of the box on the running version of Windows.
     const CheckBinding& bindingOf(const CheckBox& box) const;
-    // Keys as the running Windows has them.
+    // Keys are those of the running version of Windows.
     OpenedKey open(const KeyPath& key) const;
     std::optional<StoredValue> read(const KeyPath& key, std::string_view name) const;
     void remove(const KeyPath& key, std::string_view name) const;  // by the full path; needs no open key
-    // Opens a key for writing, and records the date where the row says that this is the moment.
+    // Opens a key for writing, and records the date if the tweak does so when a key is open.
     OpenedKey openForWriting(const KeyPath& key);
     OpenedKey openForWriting(const KeyPath* key) { return key == nullptr ? OpenedKey() : openForWriting(*key); }
     void stampBeforeWrite();

@@ -1,4 +1,4 @@
-// The nine pages' controls.
+// The controls of the nine pages.
 #include "pages/PageLayout.h"
 
 #include "res/ControlIds.h"

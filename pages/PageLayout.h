@@ -1,4 +1,4 @@
-// Which controls each page offers, and in which order rows take them.
+// Which controls each page has, and in which order tweaks use them.
 #pragma once
 
 #include "pages/Tweak.h"
@@ -21,34 +21,34 @@ struct SkinElement {
 
 struct PageLayout {
     int templateId;
-    std::span<const int> members;  // the controls bound to the page's members, in member order
+    std::span<const int> members;  // the controls bound to the members of the page, in member order
     std::span<const int> boxes = {};
     std::span<const RowControls> rows = {};
     int note = 0;
     int list = 0;
     // What HideControls hides.
     std::span<const int> hidden = {};
-    // The skin elements, in the order in which they are applied.
+    // The skin elements in the order in which they are applied.
     std::span<const SkinElement> skin = {};
 };
 
-// For every page but Page::None.
+// For every page except Page::None.
 const PageLayout& layoutOf(Page page);
 
-// The control ids that a tweak's n-th box, field and choice take on its page; 0 when the page has no such control.
+// The control ids of a tweak's n-th box, field and choice on its page; 0 if the page has no such control.
 int boxControl(const Tweak& tweak, std::size_t index);
 RowControls fieldControls(const Tweak& tweak, std::size_t index);
 RowControls choiceControls(const Tweak& tweak, std::size_t index);
 RowControls colourControls();
 
-// The one of them that holds the setting.
+// The control that holds the setting.
 inline int controlOf(const auto&, int id) { return id; }
 inline int controlOf(const Field&, const RowControls& row) { return row.edit; }
 inline int controlOf(const auto&, const RowControls& row) { return row.combo; }
 
-// Calls visit(control's description, its ids) for each control of the tweak that stands for a setting, in the order in
-// which they are shown, read and, by default, written: a CheckBox with its id, a Field, ColourField or Choice with the
-// RowControls that it takes, a Table with its list's id.
+// Calls visit(description of the control, its ids) for each control of the tweak that has a setting, in the order in
+// which they are shown, read and, by default, written: a CheckBox with its id, a Field, ColourField or Choice with its
+// RowControls, a Table with the id of its list.
 template <typename Visit>
 void forEachControl(const Tweak& tweak, Visit&& visit) {
     for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {

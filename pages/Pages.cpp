@@ -1,4 +1,4 @@
-// What the pages do on their own.
+// What the pages do by themselves.
 #include "pages/Pages.h"
 
 #include "pages/ColourCombo.h"
@@ -11,12 +11,12 @@
 namespace korvane {
 namespace {
 
-// Extended list-view styles: full-row select, regional, info tips; with check boxes on the list of rows to tick.
+// Extended list-view styles: full-row select, regional and info tips; check boxes too for the check list.
 constexpr std::uint32_t kOverviewStyle = 0x620;
 constexpr std::uint32_t kCheckListStyle = 0x624;
 constexpr Colour kListBackground = rgb(249, 250, 251);
 
-// One less than the number of colours: the last colour is never the first one shown. Meant so.
+// Intended: one less than the number of colours, so that the last colour is never the initial one.
 constexpr int kFirstColourChoices = 139;
 
 constexpr int kLastNumber = 10000;

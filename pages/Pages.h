@@ -1,5 +1,5 @@
-// The nine pages: containers of controls with a few behaviours of their own.
-// They know nothing of the registry; show and apply routines use their controls.
+// The nine pages: containers of controls with some behaviour of their own. They
+// know nothing of the registry; show and apply routines use their controls.
 #pragma once
 
 #include "pages/Dialog.h"
@@ -16,7 +16,7 @@ public:
     int templateId() const { return layoutOf(page_).templateId; }
     // Hides the page's tweak controls, not its header.
     void HideControls();
-    // False when the template lacks a control that the page binds.
+    // False if the template lacks a control that the page binds.
     bool bound() const { return bound_; }
 
 protected:
@@ -30,7 +30,7 @@ private:
     bool bound_ = false;
 };
 
-// Overviews, and tweaks that offer a table of choices.
+// Overviews, and tweaks with a table of choices.
 class CCategoryPage : public CPage {
 public:
     explicit CCategoryPage(DialogHost& host) : CPage(host, Page::Category) {}
@@ -44,7 +44,7 @@ public:
     explicit CChecksPage(DialogHost& host) : CPage(host, Page::Checks) {}
 };
 
-// A page with browse buttons: each fills the edit box of its row, with nothing when the user cancels.
+// A page with browse buttons: each fills the edit box of its row, or empties it if the user cancels.
 class CBrowsePage : public CPage {
 public:
     using CPage::CPage;
@@ -55,7 +55,7 @@ class CCheckFieldsPage : public CBrowsePage {
 public:
     explicit CCheckFieldsPage(DialogHost& host) : CBrowsePage(host, Page::CheckFields) {}
     void OnClicked(int id) override;
-    // Enables or disables the first two fields and the first browse button.
+    // Enables or disables the first two edit boxes and the first browse button.
     void EnableFields(bool enabled);
 };
 
@@ -93,14 +93,14 @@ public:
 class CCheckComboPage : public CPage {
 public:
     explicit CCheckComboPage(DialogHost& host) : CPage(host, Page::CheckCombo) {}
-    // The box switches the list at once.
+    // The check box enables or disables the combo box at once.
     void OnClicked(int id) override;
 
 protected:
     bool OnInitDialog() override;
 };
 
-// One of each, in the order of the Page enumeration.
+// One page of each kind, in the order of the Page enumeration.
 std::vector<std::unique_ptr<CPage>> makePages(DialogHost& host);
 
 }  // namespace korvane

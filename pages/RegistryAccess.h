@@ -1,7 +1,7 @@
-// How the program reads and writes the registry: roots connected first, keys opened
-// with full access even to be read, one short buffer for every value, and no
-// failure ever reported: what cannot be read leaves the control as it was
-// reset, what cannot be written is left out.
+// How the program accesses the registry: the root is connected first, keys are
+// opened with full access even to be read, every value is read into one short
+// buffer, and no failure is reported: what cannot be read leaves the control in its
+// reset state, what cannot be written is skipped.
 #pragma once
 
 #include "platform/OsVersion.h"
@@ -17,20 +17,21 @@
 
 namespace korvane {
 
-// An apply writes the values of all controls under their first keys, and then those that have one under their second.
+// An apply writes the values of all controls under their first keys, and then, for those that have one, under their
+// second.
 enum class WriteRound : std::uint8_t { First, Second };
 
-// A key as a row names it. It is opened; with `created` it is opened at `path` and made below it when a page is
-// applied (never when a page is shown). An empty path stands for the root itself.
+// The key of a binding. It is opened; with `created`, an apply opens `path` and creates `created` below it (a show
+// never creates a key). An empty path stands for the root itself.
 struct KeyPath {
     Root root;
     std::string_view path;
     std::string_view created = {};
-    // On the versions of the set the same value lives elsewhere in the same root.
+    // On these versions of Windows the value is in another key of the same root.
     VersionSet otherOn = {};
     std::string_view otherPath = {};
     std::string_view otherCreated = {};
-    // A second key (borrowed, of static storage) to which an apply writes what it writes here; it is never read.
+    // A second key, to which an apply writes the same; it is never read. Borrowed, of static storage.
     const KeyPath* also = nullptr;
     bool alsoFirst = false;
 
@@ -44,7 +45,7 @@ struct KeyPath {
         key.alsoFirst = true;
         return key;
     }
-    // The key that an apply writes in that round; null when there is no second one.
+    // The key that an apply writes in that round; null if there is none.
     constexpr const KeyPath* writtenIn(WriteRound round) const {
         return (round == WriteRound::First) != alsoFirst ? this : also;
     }
@@ -54,21 +55,21 @@ struct KeyPath {
         key.root = otherRoot;
         return key;
     }
-    // The same key, with all of its missing levels made when a page is applied.
+    // The same key, all missing levels of which are created by an apply.
     constexpr KeyPath madeWhole() const {
         KeyPath key = *this;
         key.path = {};
         key.created = path;
         return key;
     }
-    // The key of the running Windows.
+    // The key on that version of Windows.
     constexpr KeyPath on(const COsVersion& version) const {
         return otherOn.contains(version) ? KeyPath{root, otherPath, otherCreated} : KeyPath{root, path, created};
     }
     std::string fullPath() const;
 };
 
-// Queries take at most this many bytes; longer data counts as not readable.
+// A query reads at most this many bytes; longer data counts as missing.
 constexpr std::size_t kValueBuffer = 202;
 
 struct StoredValue {
@@ -76,13 +77,13 @@ struct StoredValue {
     std::size_t size = 0;
     ValueType type = ValueType::None;
 
-    // The first four bytes, low byte first, whatever the type; shorter data counts as padded with zeros.
+    // The first four bytes, little-endian, whatever the type; shorter data is padded with zeros.
     std::uint32_t number() const;
-    // The data up to its first zero byte, whatever the type.
+    // The data up to the first zero byte, whatever the type.
     std::string text() const;
 };
 
-// The handle that writes go through, with the root's handle that keeps it reachable. False when nothing is open.
+// An open key together with the handle of its root, which stays connected. False if nothing is open.
 class OpenedKey {
 public:
     OpenedKey(RegistryHandle root, RegistryHandle key) : root_(std::move(root)), key_(std::move(key)) {}
@@ -96,20 +97,20 @@ private:
 };
 
 OpenedKey openKey(Registry& registry, Root root, std::string_view path);
-// Opens the key for an apply, making what the row says is made.
+// Opens the key for an apply and creates what its `created` says.
 OpenedKey openOrCreate(Registry& registry, const KeyPath& key);
 
 std::optional<StoredValue> readValue(Registry& registry, const RegistryHandle& key, std::string_view name);
 
 void writeNumber(Registry& registry, const OpenedKey& key, std::string_view name, std::uint32_t number);
 void writeBinary(Registry& registry, const OpenedKey& key, std::string_view name, std::span<const std::byte> data);
-// Written with the text's length, without a terminating zero.
+// Writes the text without a terminating zero.
 void writeText(Registry& registry, const OpenedKey& key, std::string_view name, std::string_view text,
                ValueType type = ValueType::Sz);
 
-// Deletes a value by its key's full path; needs no open key.
+// Deletes a value by the full path of its key, which need not be open.
 void deleteValue(Registry& registry, const KeyPath& key, std::string_view name);
-// Deletes a key with all below it.
+// Deletes a key with all its subkeys.
 void deleteTree(Registry& registry, Root root, std::string_view path);
 
 }  // namespace korvane

@@ -1,4 +1,4 @@
-// Comparing and converting the texts that values hold.
+// Comparing and converting stored texts.
 #include "pages/Bindings.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
-// What code may do to one dialog and to its controls, by control id. Pages,
-// bindings and the main window decide through these verbs; real windows or
-// plain state in memory carry them out. Every verb is one message or call of
-// the platform; a control that does not exist is left out in silence, as there.
+// What code may do to one dialog and to its controls, by control id. Every function
+// is one message or Win32 call, carried out by real windows or by plain state in
+// memory. As in Windows, a control that does not exist is silently ignored.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +11,7 @@
 
 namespace korvane {
 
-// 0x00BBGGRR, as the platform's colour references.
+// 0x00BBGGRR, as COLORREF.
 using Colour = std::uint32_t;
 
 constexpr Colour rgb(unsigned red, unsigned green, unsigned blue) { return red | (green << 8) | (blue << 16); }
@@ -29,14 +28,14 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
-// What CB_GETCURSEL answers when no entry is selected.
+// What CB_GETCURSEL returns if no entry is selected.
 constexpr int kNoSelection = -1;
 
 class DialogControls {
 public:
     virtual ~DialogControls() = default;
 
-    // The dialog's own window. Its rectangle is in its parent's client area.
+    // The dialog's own window. Its rectangle is in client coordinates of its parent.
     virtual void show(bool visible) = 0;
     virtual Rect rect() = 0;
     virtual void move(const Rect& rect) = 0;  // repaints
@@ -44,7 +43,7 @@ public:
     virtual void setCaption(std::string_view text) = 0;
     virtual void endDialog(int result) = 0;
 
-    // Any control. Rectangles are in the dialog's client area.
+    // Any control. Rectangles are in client coordinates of the dialog.
     virtual std::vector<int> controlIds() = 0;  // direct children in z-order
     virtual void showControl(int id, bool visible) = 0;
     virtual void enableControl(int id, bool enabled) = 0;
@@ -82,12 +81,12 @@ public:
     virtual bool rowCheck(int id, int row) = 0;
 };
 
-// Who owns a dialog's decisions: told when the dialog's controls exist, and of clicks on its buttons.
+// Makes the decisions of a dialog: is told when the controls exist, and of clicks on buttons.
 class DialogHandler {
 public:
     virtual ~DialogHandler() = default;
 
-    // The controls stay valid as long as the dialog. False: the handler has ended the dialog.
+    // The controls stay valid as long as the dialog. Returns false if the handler has ended the dialog.
     virtual bool OnInitDialog(DialogControls& controls) = 0;
     virtual void OnClicked(int id) = 0;
 };

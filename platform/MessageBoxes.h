@@ -1,4 +1,4 @@
-// Message boxes with a single OK button.
+// Message boxes with one OK button.
 #pragma once
 
 #include <string>
@@ -11,9 +11,9 @@ struct MessageBoxRequest {
     std::string text;
     std::string caption;
     MessageIcon icon = MessageIcon::None;
-    // The window the box belongs to: none, or the window it stops from being used meanwhile.
+    // The owner of the box: none, or the window that it disables.
     bool ownedByMainWindow = false;
-    // The number of the text in the program's string table; 0 when it does not come from there.
+    // The id of the text in the string table; 0 if it is not from there.
     int stringId = 0;
 };
 

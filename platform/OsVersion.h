@@ -1,4 +1,4 @@
-// The Windows version as gates test it, and sets of versions.
+// The version of Windows as gates test it, and sets of versions.
 #pragma once
 
 #include "platform/System.h"
@@ -11,13 +11,13 @@ class COsVersion {
 public:
     explicit COsVersion(VersionSource& source) { source.getVersion(record_); }
 
-    // The tests of the Windows 95 family do not look at the major version.
+    // Intended: the tests of the Windows 95 family ignore the major version.
     constexpr bool IsWin95() const { return record_.platformId == kWindows && record_.minorVersion == 0; }
     constexpr bool IsWin98() const { return record_.platformId == kWindows && record_.minorVersion == 10; }
     constexpr bool IsWinMe() const { return record_.platformId == kWindows && record_.minorVersion == 90; }
     constexpr bool IsWinNT4() const { return record_.platformId == kNt && record_.majorVersion == 4; }
     constexpr bool IsWin2000() const { return isNt5() && record_.minorVersion == 0; }
-    // Also true on every later 5.x system. From 6.0 on all tests are false, so every gate refuses there.
+    // Intended: also true on every later 5.x version. From 6.0 on every test is false, so that every gate refuses.
     constexpr bool IsWinXP() const { return isNt5() && record_.minorVersion >= 1; }
 
 private:
@@ -26,10 +26,10 @@ private:
 
     constexpr bool isNt5() const { return record_.platformId == kNt && record_.majorVersion == 5; }
 
-    VersionRecord record_;  // all zero, and every test false, when the system gives no version
+    VersionRecord record_;  // all zero, so that every test is false, if the version is unknown
 };
 
-// A set of Windows versions, for gates and for choices by Windows family.
+// A set of Windows versions.
 class VersionSet {
 public:
     constexpr VersionSet() = default;

@@ -1,6 +1,6 @@
-// The registry as the program reaches it: one verb per platform call, named
-// after it, no cleverer than it. Two families implement it: the live registry
-// of Windows and a registry in memory that loads and saves .reg files.
+// The registry, one function per Win32 call and named after it. Two classes
+// implement it: the live registry of Windows, and a registry in memory that loads
+// and saves .reg files.
 #pragma once
 
 #include <cstddef>
@@ -14,10 +14,10 @@ namespace korvane {
 
 enum class Root : std::uint8_t { ClassesRoot, CurrentUser, LocalMachine, Users };
 
-// Value types with the platform's own numbers.
+// Value types, numbered as in Windows.
 enum class ValueType : std::uint32_t { None = 0, Sz = 1, ExpandSz = 2, Binary = 3, Dword = 4, MultiSz = 7 };
 
-// The platform's error numbers; any other number of the platform passes through unchanged.
+// Win32 error codes; any other code is passed through unchanged.
 enum class [[nodiscard]] Status : std::int32_t {
     Success = 0,
     FileNotFound = 2,
@@ -31,8 +31,8 @@ enum class [[nodiscard]] Status : std::int32_t {
 
 class Registry;
 
-// A connected root or an open key. Move-only; closes itself. A default-made
-// handle is no key: every verb answers InvalidHandle for it.
+// A connected root or an open key. Move-only; closes itself. With a default-constructed handle every function returns
+// InvalidHandle.
 class RegistryHandle {
 public:
     RegistryHandle() = default;
@@ -60,8 +60,8 @@ private:
     std::uintptr_t value_ = 0;
 };
 
-// Texts are 8-bit, in the system's ANSI code page. Out-parameters are unchanged on failure. Paths are relative to the
-// given handle, without a leading or trailing backslash; an empty path names the handle's own key.
+// Texts are 8-bit, in the ANSI code page. Out-parameters are unchanged on failure. Paths are relative to the given
+// handle, without a leading or trailing backslash; an empty path names the key of the handle itself.
 class Registry {
 public:
     virtual ~Registry() = default;
@@ -70,14 +70,14 @@ public:
     virtual Status connect(Root root, RegistryHandle& handle) = 0;
     // RegOpenKeyExA with full access.
     virtual Status openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) = 0;
-    // RegOpenKeyExA for reading alone: the few keys that are the system's own and not the user's to change.
+    // RegOpenKeyExA with read access, for the few keys of the system that the program never changes.
     virtual Status openKeyForReading(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
         return openKey(parent, path, key);
     }
-    // RegCreateKeyA: opens the key, making it and every missing level above it.
+    // RegCreateKeyA: opens the key and creates every missing level.
     virtual Status createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) = 0;
-    // RegQueryValueExA. `size` is set to the length of the data in bytes, on success and on MoreData; texts carry
-    // their terminating zero when they are stored with one. The type is reported when asked for.
+    // RegQueryValueExA. `size` is set to the length of the data in bytes, on success and on MoreData; a text has a
+    // terminating zero if it is stored with one. The type is optional.
     virtual Status queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer,
                               std::size_t& size, ValueType* type = nullptr) = 0;
     // RegSetValueExA. A text given without its terminating zero is stored with one, as Windows does.
@@ -85,14 +85,14 @@ public:
                             std::span<const std::byte> data) = 0;
     // SHDeleteValueA; with an empty subkey RegDeleteValueA on the key itself.
     virtual Status deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) = 0;
-    // RegDeleteKeyA of Windows NT: refuses (AccessDenied) a key that has subkeys.
+    // RegDeleteKeyA as on Windows NT: a key with subkeys is refused (AccessDenied).
     virtual Status deleteKey(const RegistryHandle& parent, std::string_view path) = 0;
-    // SHDeleteKeyA: the key with all below it. An empty path, which would name the handle's own key, is refused
-    // (InvalidParameter): on a root it would delete everything.
+    // SHDeleteKeyA: the key with all its subkeys. An empty path is refused (InvalidParameter): on a root it would
+    // delete everything.
     virtual Status deleteTree(const RegistryHandle& parent, std::string_view path) = 0;
-    // RegEnumKeyA with a buffer of 260 bytes. NoMoreItems behind the last.
+    // RegEnumKeyA with a buffer of 260 bytes. NoMoreItems after the last subkey.
     virtual Status enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) = 0;
-    // RegEnumValueA, the name alone. NoMoreItems behind the last.
+    // RegEnumValueA, only the name. NoMoreItems after the last value.
     virtual Status enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) = 0;
 
 private:
@@ -106,7 +106,7 @@ inline void RegistryHandle::close() noexcept {
     }
 }
 
-// For the many calls whose failure is dropped on purpose: the program never reports a failed registry call.
+// Drops the status of a call. Intended: the window never reports a failed registry call.
 inline void ignoreFailure(Status) {}
 
 }  // namespace korvane

@@ -1,5 +1,5 @@
-// The skin engine and the splash window, as the main window and the pages use
-// them. A negative result means that the engine refused.
+// The skin engine and the splash screen as the main window and the pages use them.
+// A negative result means that the engine refused.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,6 @@
-// The running system apart from its registry and windows: version, clock,
-// folders, drives, files, profile (INI) strings, pickers and the help library.
-// Each class is one small area of the platform.
+// The running system without its registry and windows: version, clock, folders,
+// drives, files, profile (INI) strings, pickers and the help library, one class for
+// each.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@ namespace korvane {
 class Registry;
 class MessageBoxes;
 
-// The fields of OSVERSIONINFOA that the program looks at.
+// The fields of OSVERSIONINFOA that the program uses.
 struct VersionRecord {
     std::uint32_t platformId = 0;  // 1: Windows 95, 98, Me; 2: Windows NT and later
     std::uint32_t majorVersion = 0;
@@ -25,7 +25,7 @@ struct VersionRecord {
 class VersionSource {
 public:
     virtual ~VersionSource() = default;
-    // GetVersionExA. A failed call leaves the record as it is; the program does not look at the result.
+    // GetVersionExA. A failed call leaves the record unchanged; the result is not checked.
     virtual bool getVersion(VersionRecord& record) = 0;
 };
 
@@ -39,7 +39,7 @@ class Clock {
 public:
     virtual ~Clock() = default;
     virtual UtcDate utcDate() = 0;
-    // Calendar time in seconds plus processor clock ticks: the seed of the random generator.
+    // time() plus clock(): the seed of the random generator.
     virtual std::uint32_t seed() = 0;
 };
 
@@ -51,9 +51,9 @@ struct Drive {
 class SystemFolders {
 public:
     virtual ~SystemFolders() = default;
-    // Without a trailing backslash; empty when the folder's path does not fit into 100 bytes.
+    // Without a trailing backslash; empty if the path does not fit into 100 bytes.
     virtual std::string windowsFolder() = 0;
-    // The user's application data folder (CSIDL 0x1A); empty when the system has none.
+    // The user's application data folder (CSIDL 0x1A); empty if there is none.
     virtual std::string applicationDataFolder() = 0;
     // In the order of GetLogicalDriveStringsA.
     virtual std::vector<Drive> logicalDrives() = 0;
@@ -62,8 +62,8 @@ public:
 class ProfileStrings {
 public:
     virtual ~ProfileStrings() = default;
-    // GetPrivateProfileStringA with a buffer of `size` bytes: the value has at most size - 1 characters. Sections and
-    // keys are looked up without regard to case; a missing file, section or key answers the default.
+    // GetPrivateProfileStringA with a buffer of `size` bytes: the value has at most size - 1 characters. Letter case
+    // does not matter in sections and keys; if the file, section or key is missing, returns the default.
     virtual std::string getString(std::string_view section, std::string_view key, std::string_view defaultValue,
                                   std::size_t size, const std::string& file) = 0;
 };
@@ -71,42 +71,42 @@ public:
 class Pickers {
 public:
     virtual ~Pickers() = default;
-    // Both answer an empty text when the user cancels.
+    // Both return an empty text if the user cancels.
     virtual std::string browseForFolder() = 0;
     // The filter has the form "Name|*.ext||".
     virtual std::string openFile(std::string_view filter) = 0;
 };
 
-// A file open for reading and writing, or newly made for writing; closes itself.
+// A file open for reading and writing, or newly created for writing; closes itself.
 class File {
 public:
     virtual ~File() = default;
     virtual bool readAll(std::string& text) = 0;  // from the beginning
-    // Makes `text` the whole content. False: the platform reported an error.
+    // Replaces the whole content by `text`. False on an error.
     virtual bool rewrite(std::string_view text) = 0;
 };
 
 class Files {
 public:
     virtual ~Files() = default;
-    // Existing files only, for reading and writing, others may read and write. Null when it cannot be opened.
+    // Opens an existing file for reading and writing, with read and write sharing. Null if it cannot be opened.
     virtual std::unique_ptr<File> openExisting(const std::string& path) = 0;
-    // Always a new, empty file, for writing, others may write. Null when it cannot be made.
+    // Creates a file, or empties an existing one, for writing, with write sharing. Null if it cannot be created.
     virtual std::unique_ptr<File> createAlways(const std::string& path) = 0;
 };
 
-// The library that shows compiled help, loaded at run time.
+// The library that displays compiled help, loaded at run time.
 class HelpLibrary {
 public:
     virtual ~HelpLibrary() = default;
-    virtual bool load(const std::string& path) = 0;  // true: a module is loaded and stays loaded
+    virtual bool load(const std::string& path) = 0;  // true if the module was loaded; it stays loaded
     virtual bool findFunction(int ordinal) = 0;      // in the loaded module
-    // The help function with its caller, file, command and data; its result.
+    // Calls the help function with caller, file, command and data; returns its result.
     virtual std::uintptr_t call(std::uintptr_t caller, const std::string& file, unsigned command,
                                 std::uintptr_t data) = 0;
 };
 
-// All that the portable code may reach outside itself, apart from its windows. Borrowed, never owned; lives as long as
+// Everything outside the program that portable code may use, except windows. Borrowed, never owned; lives as long as
 // the program.
 struct Platform {
     Registry& registry;

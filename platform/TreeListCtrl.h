@@ -1,4 +1,4 @@
-// The category tree's control: a tree with one column and a heading.
+// The control of the category tree: a tree with one column and a heading.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -9,16 +9,17 @@
 
 namespace korvane {
 
-// A row of the tree. The two constants name the place above the top-level rows and the place behind the last child.
+// A row of the tree. The two constants stand for the parent of the top-level rows and for the place after the last
+// child.
 using CTreeListItem = std::uintptr_t;
 constexpr CTreeListItem kRootItem = 0;
 constexpr CTreeListItem kInsertLast = ~CTreeListItem{0};
 
-// A bitmap that the control owns and draws behind its rows.
+// A picture that the control owns and draws behind its rows.
 class BackgroundImage {
 public:
     virtual ~BackgroundImage() = default;
-    // Loads the picture and gives its size in pixels. A missing or broken file leaves the background plain; nothing
+    // Loads the picture and sets its size in pixels. With a missing or damaged file the background stays plain; nothing
     // is reported.
     virtual void load(const std::string& path, int& width, int& height) = 0;
 };
@@ -41,7 +42,7 @@ public:
     virtual void SetItemBold(CTreeListItem item, bool bold) = 0;
     virtual void SetItemImage(CTreeListItem item, int normal, int selected, int expanded, int expandedSelected) = 0;
 
-    // False when no row is selected; otherwise the row's data.
+    // Returns the data of the selected row. False if none is selected.
     virtual bool GetSelectedItemData(std::uint32_t& data) = 0;
 };
 

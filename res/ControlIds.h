@@ -1,7 +1,7 @@
-// Resource and control numbers, for the resource script and the code alike.
+// Resource and control ids, for the resource script and the code.
 #pragma once
 
-// Dialogs, in the order in which the pages are made.
+// Dialogs, in the order in which the pages are created.
 #define IDD_ABOUT 100
 #define IDD_MAIN 102
 #define IDD_CATEGORY 106

@@ -1,4 +1,4 @@
-// The dialog procedure of the main window, and what its owner asks of it.
+// The dialog procedure of the main window, and the operations of MainWindow.
 #include "app/win32/Win32MainWindow.h"
 
 #include "platform/win32/Splitter.h"
@@ -13,7 +13,7 @@ namespace korvane {
 namespace {
 
 constexpr UINT kShowHelp = WM_USER + 203;
-// The low four bits of a system command are the platform's own.
+// Windows uses the low four bits of a system command itself.
 constexpr WPARAM kSystemCommandMask = 0xFFF0;
 
 // What the resources hold for the dialog's controls: a resource of this type with the dialog's number.
@@ -63,7 +63,7 @@ INT_PTR CALLBACK Win32MainWindow::dialogProc(HWND window, UINT message, WPARAM w
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(window, DWLP_USER, lParam);
         reinterpret_cast<Win32MainWindow*>(lParam)->onInitDialog(window);
-        return TRUE;  // the platform sets the focus, to the tree
+        return TRUE;  // Windows sets the focus, to the tree
     }
     auto* self = reinterpret_cast<Win32MainWindow*>(GetWindowLongPtrA(window, DWLP_USER));
     return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
@@ -75,7 +75,8 @@ void Win32MainWindow::onInitDialog(HWND window) {
     tree_.emplace(GetDlgItem(window, IDC_TREE));
     splash_.emplace(GetDlgItem(window, IDC_SPLASH));
     system_.setMainWindow(window);
-    // The dialog does not erase what its children paint, which would flicker; pages cover the engines' places.
+    // The dialog does not erase the background where children paint, which would flicker; pages cover the placeholders
+    // of the engines.
     SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | WS_CLIPCHILDREN);
     moveToBottom(GetDlgItem(window, IDC_SPLASH));
     centreWindow(window);
@@ -124,12 +125,12 @@ INT_PTR Win32MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
     if (HIWORD(wParam) != BN_CLICKED || control == nullptr) {
         return FALSE;
     }
-    // Enter on a page's button comes here, because this dialog is the one that is run; it is the page's to handle.
+    // Enter on a button of a page arrives here, because this is the modal dialog; the page must handle it.
     if (GetParent(control) != window_) {
         SendMessageA(GetParent(control), WM_COMMAND, wParam, lParam);
         return TRUE;
     }
-    // Enter anywhere else means the default button, even while it is hidden.
+    // Enter anywhere else means the default button, even if that is hidden.
     if (LOWORD(wParam) == IDC_APPLY && IsWindowVisible(control)) {
         handler_->OnApplyChanges();
     }
@@ -145,8 +146,8 @@ INT_PTR Win32MainWindow::onNotify(const NMHDR& notification) {
     return TRUE;
 }
 
-// What changes control by control is shown when it is complete: some controls draw themselves at once, and moved
-// windows drag along what happens to lie below them.
+// Redraws only once all controls have changed: some controls draw themselves at once, and a moved window carries along
+// the pixels of what was below it.
 void Win32MainWindow::changeAtOnce(const std::function<void()>& change) {
     if (!IsWindowVisible(window_)) {
         change();
@@ -158,7 +159,7 @@ void Win32MainWindow::changeAtOnce(const std::function<void()>& change) {
     redrawAll();
 }
 
-// Only a minimized window draws itself: its icon.
+// Only the icon of a minimized window is drawn here.
 bool Win32MainWindow::paintIcon() {
     if (!IsIconic(window_)) {
         return false;
@@ -216,7 +217,7 @@ void Win32MainWindow::createDivider(int controlId, int rangeLeft, int rangeRight
     if (Win32SkinEngine* skin = skinEngineOf(GetDlgItem(window_, IDC_SKIN))) {
         skin->replaceWindow(placeholder, divider);
     }
-    // Above the pages, and found before its placeholder, which has the same id.
+    // Above the pages in Z order, and before its placeholder, which has the same id.
     SetWindowPos(divider, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -225,7 +226,7 @@ void Win32MainWindow::createPage(int templateId, DialogHandler& handler) {
     const HWND made = page->create(instance_, templateId, window_);
     pages_.push_back(std::move(page));
     if (made != nullptr) {
-        // Tree, divider and button cover the pages' edges; the keyboard goes from the tree to the page to the button.
+        // Tree, splitter and button cover the edges of the pages; the tab order is tree, page, button.
         moveToBottom(made);
         moveToBottom(GetDlgItem(window_, IDC_SPLASH));
     }

@@ -1,5 +1,5 @@
-// The real main window: dialog 102, run modally, with its tree, its divider,
-// its pages and the image list.
+// The real main window: dialog 102, modal, with its tree, splitter, pages and image
+// list.
 #pragma once
 
 #include "platform/MainWindow.h"
@@ -22,16 +22,16 @@ class Win32System;
 
 class Win32MainWindow final : public MainWindow {
 public:
-    // The system's message boxes and pickers belong to the window while it lives.
+    // While the window exists, it owns the message boxes and pickers of the system.
     Win32MainWindow(HINSTANCE instance, Win32System& system);
     Win32MainWindow(const Win32MainWindow&) = delete;
     Win32MainWindow& operator=(const Win32MainWindow&) = delete;
     ~Win32MainWindow() override;
 
-    // Returns when the window has closed: the result it was ended with, or -1 if it could not be made.
+    // Runs the window until it closes. Returns the dialog's result, or -1 if the window could not be created.
     int runModal(MainWindowHandler& handler);
-    // Makes the window and returns at once, for a caller who handles messages himself and destroys the window before
-    // this object. Null if it could not be made.
+    // Creates the window and returns at once, for a caller that runs its own message loop and destroys the window
+    // before this object. Null if it could not be created.
     HWND create(MainWindowHandler& handler);
 
     DialogControls& controls() override { return *dialog_; }

@@ -1,5 +1,4 @@
-// Korvane Manager: puts the running Windows, the main window and its owner
-// together.
+// Korvane Manager: connects the running Windows, the main window and its decisions.
 #include "app/KorvaneApp.h"
 #include "app/MainDlg.h"
 #include "app/win32/Win32MainWindow.h"

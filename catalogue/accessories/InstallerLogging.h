@@ -12,8 +12,8 @@ constexpr KeyPath kInstallerMirror{Root::CurrentUser,
                                    "Software\\Microsoft\\Windows\\CurrentVersion\\Group Policy Objects\\LocalMachine",
                                    "Software\\Policies\\Microsoft\\Windows\\Installer"};
 
-// The letters only inform: checked always writes all of them but the last two. Clearing removes every mirrored policy of
-// the current user, not only the installer's: meant so.
+// The list of letters only informs: checked always writes all of them but the last two. Intended: clearing deletes
+// every mirrored policy of the current user, not only those of the installer.
 constexpr TableColumn kInstallerLoggingColumns[] = {{"Letter", 99}, {"Option", 277}};
 constexpr std::string_view kInstallerLoggingCells[] = {"v", "Verbose output",
                                        "o", "Out-of-disk-space messages",

@@ -83,7 +83,7 @@ constexpr std::uint32_t kAllDrives = 0x3FFFFFF;
 
 constexpr std::string_view kAllRow = "ALL";
 
-// 0 for what is no drive's root. B: never gets a row: meant so.
+// 0 if this is not the root of a drive that gets a row. Intended: B: never gets one.
 std::uint32_t driveBit(std::string_view root) {
     const bool drive = root.size() == 3 && root[0] >= 'A' && root[0] <= 'Z' && root.substr(1) == ":\\";
     return drive && root[0] != 'B' ? std::uint32_t{1} << (root[0] - 'A') : 0;
@@ -101,8 +101,8 @@ void showDrives(PageContext& context) {
     addRow(kAllRow);
 }
 
-// What a row stands for is its text, so drives that come or go while the page is open do not matter. The rows are added
-// up, not combined: ALL together with a drive overflows into bit 26. Meant so.
+// A row is identified by its text, so that a drive that appears or disappears while the page is open does no harm.
+// Intended: the bits are added, not combined by OR, so that ALL together with a drive carries into bit 26.
 void applyDrives(PageContext& context) {
     std::uint32_t sum = 0;
     for (int row = 0; row < context.page.rowCount(IDC_CHECK_LIST); ++row) {

@@ -163,8 +163,8 @@ constexpr CheckBox kShutdown[] = {
 constexpr CheckBox kForceAutoLogin[] = {
     {.text = "Force Auto-Login.", .binding = DwordCheckState{.key = kWinlogon, .name = kForceAutoLogon}}};
 
-// ---- 169: each family of Windows keeps it in another place. One refuses; a Windows that the program does not know is
-// left alone without a word: meant so.
+// ---- 169: the value depends on the version of Windows. Intended: Windows 95 is refused, but on an unknown version
+// nothing is written and no alert is shown.
 constexpr std::string_view kDontDisplayLastUser = "DontDisplayLastUserName";
 constexpr VersionedBinding kLastUserPlaces[] = {
     {kWinNT4, DwordCheckState{.key = kWinlogon, .name = kDontDisplayLastUser}},

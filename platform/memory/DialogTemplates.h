@@ -1,5 +1,5 @@
-// The dialog templates as data: the same lists that the resource script is made
-// from, so that a page exists in memory exactly as it does on the screen.
+// The dialog templates as data, from the lists that the resource script includes,
+// so that a page in memory has the same controls as the one on the screen.
 #pragma once
 
 #include <cstdint>
@@ -39,7 +39,7 @@ struct DialogTemplate {
     std::span<const ControlTemplate> controls;
 };
 
-// Null for an id that names no dialog.
+// Null for an id that is not a dialog's.
 const DialogTemplate* findDialogTemplate(int id);
 
 }  // namespace korvane

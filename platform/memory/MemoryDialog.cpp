@@ -1,4 +1,4 @@
-// The rules of the platform's controls, each as far as the program can see it.
+// The behaviour of the Windows controls, as far as the program can see it.
 #include "platform/memory/MemoryDialog.h"
 
 #include <algorithm>
@@ -9,10 +9,10 @@ namespace {
 // A dialog in "MS Sans Serif" 8 at 96 dpi.
 constexpr int kBaseUnitX = 6;
 constexpr int kBaseUnitY = 13;
-// A closed combo box is as high as its font and borders want, whatever height it is given.
+// The height of a closed combo box depends on font and borders only, whatever height it is given.
 constexpr int kClosedComboHeight = 21;
 constexpr std::uint32_t kCheckBoxesStyle = 0x00000004;  // LVS_EX_CHECKBOXES
-constexpr std::size_t kLongestTyping = 32766;           // the limit of a fresh edit field
+constexpr std::size_t kLongestTyping = 32766;           // the limit of a new edit box
 constexpr int kNoSpace = -2;                            // CB_ERRSPACE
 constexpr std::uint32_t kNoSuchEntry = 0xFFFFFFFF;      // CB_ERR
 
@@ -25,7 +25,7 @@ constexpr Rect pixels(int x, int y, int width, int height) {
     return {left, top, left + scaled(width, kBaseUnitX, 4), top + scaled(height, kBaseUnitY, 8)};
 }
 
-// Windows are never less than empty.
+// A window has no negative size.
 Rect windowRect(Rect rect) {
     rect.right = std::max(rect.left, rect.right);
     rect.bottom = std::max(rect.top, rect.bottom);
@@ -39,7 +39,7 @@ void place(MemoryControl& control, const Rect& rect) {
     }
 }
 
-// The platform's texts end at the first zero byte.
+// Texts of windows end at the first zero byte.
 std::string platformText(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
 
 char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -116,7 +116,7 @@ void MemoryDialog::move(const Rect& rect) { rect_ = windowRect(rect); }
 
 void MemoryDialog::setCaption(std::string_view text) { caption_ = platformText(text); }
 
-// An ended dialog hides at once, even where it is not modal.
+// A dialog that ends is hidden at once, even if it is not modal.
 void MemoryDialog::endDialog(int result) {
     result_ = result;
     visible_ = false;
@@ -148,8 +148,7 @@ std::string MemoryDialog::text(int id) {
     return found != nullptr ? found->text : std::string();
 }
 
-// An editable combo keeps its entries and even its selection when its edit field gets a text; a drop-down list takes
-// no text at all.
+// Setting the text of an editable combo box keeps its entries and its selection; a drop-down list takes no text.
 void MemoryDialog::setText(int id, std::string_view text) {
     MemoryControl* found = control(id);
     if (found != nullptr && found->kind != ControlKind::ColourCombo) {
@@ -172,7 +171,7 @@ void MemoryDialog::setRedraw(int, bool) {}  // nothing is drawn
 
 // ---- Check boxes
 
-// A two-state check box takes every state but 0 for 1; other controls have none.
+// A two-state check box shows every state except 0 as 1; other controls have no check state.
 void MemoryDialog::setCheck(int id, std::uint32_t state) {
     MemoryControl* found = control(id);
     if (found != nullptr && found->kind == ControlKind::CheckBox) {
@@ -196,7 +195,7 @@ void MemoryDialog::resetCombo(int id) {
 
 void MemoryDialog::reserveCombo(int, int, std::size_t) {}  // the vector grows by itself
 
-// The colour list sorts without regard to case. A selected entry stays selected when it moves down.
+// The colour list sorts without regard to letter case. The selected entry stays selected when an insertion moves it.
 int MemoryDialog::addComboEntry(int id, std::string_view text) {
     MemoryControl* found = combo(id);
     if (found == nullptr || found->entries.size() >= found->entrySpace) {
@@ -263,8 +262,8 @@ void MemoryDialog::deleteRows(int id) {
     }
 }
 
-// The first cell of a row is the row's own text, which outlives the first column; the cells behind move up with their
-// columns.
+// The first cell of a row is the row's own text, which stays when the first column is deleted; the other cells move
+// with their columns.
 void MemoryDialog::deleteColumn(int id, int column) {
     MemoryControl* found = list(id);
     if (found == nullptr || itemAt(found->columns, column) == nullptr) {
@@ -376,7 +375,7 @@ bool MemoryDialog::clickButton(int id) {
     return true;
 }
 
-// Typing in an editable combo clears its selection, unlike a text set by the program.
+// Typing into an editable combo box clears its selection; setting its text does not.
 bool MemoryDialog::typeText(int id, std::string_view text) {
     MemoryControl* found = usableControl(id);
     if (found == nullptr || (found->kind != ControlKind::Edit && found->kind != ControlKind::Combo) ||

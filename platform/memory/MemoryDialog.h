@@ -1,7 +1,7 @@
-// A dialog whose controls are kept as plain state and answer as the real
-// controls do: check boxes clip, the colour list sorts, combo boxes remember
-// what was typed. It also acts for a person: every user action refuses, by
-// answering false, what nobody could do with the control as it stands.
+// A dialog whose controls are plain state that behaves like the real controls:
+// check boxes clip, the colour list sorts, combo boxes remember what was typed. It
+// also simulates the user: a user action returns false if nobody could do it with
+// the control in its present state.
 #pragma once
 
 #include "platform/memory/DialogTemplates.h"
@@ -27,7 +27,7 @@ struct MemoryListColumn {
 };
 
 struct MemoryListRow {
-    std::vector<std::string> cells;  // may be shorter than the list has columns
+    std::vector<std::string> cells;  // may have fewer cells than the list has columns
     bool checked = false;
     bool selected = false;
 
@@ -35,11 +35,11 @@ struct MemoryListRow {
     std::string_view cell(std::size_t column) const;
 };
 
-// One control; the fields of the kinds it is not stay empty.
+// One control; the fields of other kinds of control stay empty.
 struct MemoryControl {
     int id = 0;
     ControlKind kind = ControlKind::Other;
-    std::string text{};  // of an editable combo: its edit field; of the colour list: unused
+    std::string text{};  // an editable combo box: the text of its edit box; the colour list: unused
     bool visible = false;
     bool enabled = true;
     Rect rect{};
@@ -47,7 +47,7 @@ struct MemoryControl {
     std::uint32_t check = 0;
 
     std::vector<MemoryComboEntry> entries{};
-    std::size_t entrySpace = static_cast<std::size_t>(-1);  // entries beyond are refused
+    std::size_t entrySpace = static_cast<std::size_t>(-1);  // more entries are refused
     int selection = kNoSelection;
 
     std::vector<MemoryListColumn> columns{};
@@ -61,28 +61,28 @@ struct MemoryControl {
 
 class MemoryDialog final : public DialogControls {
 public:
-    // Makes the controls of the template; the dialog itself is hidden.
+    // Creates the controls of the template; the dialog itself is hidden.
     explicit MemoryDialog(const DialogTemplate& dialogTemplate);
 
-    // Who is told of clicks; the handler outlives the dialog.
+    // Sets who is told of clicks; the handler must outlive the dialog.
     void setHandler(DialogHandler& handler) { handler_ = &handler; }
 
     int templateId() const { return templateId_; }
     bool visible() const { return visible_; }
-    // What endDialog was given; none while the dialog lives.
+    // The result given to endDialog; none until then.
     std::optional<int> result() const { return result_; }
     const std::vector<MemoryControl>& allControls() const { return controls_; }
-    // Null when no control has that id; the first in z-order when several have.
+    // The first control with that id in Z order; null if there is none.
     const MemoryControl* find(int id) const;
-    // Whether a person could use the control: dialog and control are shown, and the control is enabled.
+    // Whether a user could operate the control: dialog and control are visible, and the control is enabled.
     bool usable(int id) const;
-    // The combo box refuses more than so many entries from now on.
+    // From now on the combo box accepts at most so many entries.
     void limitComboSpace(int id, std::size_t entries);
 
     // User actions.
     bool clickCheckBox(int id);
     bool clickButton(int id);
-    // Replaces the whole text of an edit field or of an editable combo by typing.
+    // Types over the whole text of an edit box or of an editable combo box.
     bool typeText(int id, std::string_view text);
     bool pickComboEntry(int id, int index);
     bool selectListRow(int id, int row);

@@ -1,4 +1,4 @@
-// The pieces of the system in memory that do more than hand a member out.
+// The parts of the scripted system that do more than return a member.
 #include "platform/memory/MemorySystem.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ constexpr NamedVersion kVersions[] = {
     {"2000", {2, 5, 0}}, {"xp", {2, 5, 1}},  {"2003", {2, 5, 2}}, {"vista", {2, 6, 0}},
 };
 
-// An open file. One newly made is open for writing only.
+// An open file. A newly created one is open for writing only.
 class OpenMemoryFile final : public File {
 public:
     OpenMemoryFile(const MemoryFiles& files, std::shared_ptr<MemoryFile> file, bool readable)
@@ -99,7 +99,7 @@ bool ScriptedHelpLibrary::findFunction(int ordinal) {
     return found_;
 }
 
-// Without a function there is nothing to call.
+// A module without the function cannot be called.
 std::uintptr_t ScriptedHelpLibrary::call(std::uintptr_t caller, const std::string& file, unsigned command,
                                          std::uintptr_t data) {
     if (!found_) {
@@ -126,7 +126,7 @@ std::unique_ptr<File> MemoryFiles::openExisting(const std::string& path) {
     return std::make_unique<OpenMemoryFile>(*this, found->second, true);
 }
 
-// A file that exists is emptied at once, and stays so when nothing is written afterwards.
+// An existing file is emptied at once, even if nothing is written afterwards.
 std::unique_ptr<File> MemoryFiles::createAlways(const std::string& path) {
     const MemoryFile* existing = find(path);
     if (existing != nullptr ? existing->readOnly : refusesCreation) {

@@ -1,6 +1,6 @@
-// A running system that is kept in memory: its version, folders, files and
-// answers are set beforehand, and what it was asked to show is written down.
-// kmctl runs on it, with real files and the real clock where it wants them.
+// A scripted system: version, folders, files and the user's answers are set
+// beforehand, and what it was asked to show is recorded. kmctl runs on it, with
+// real files and the real clock if it needs them.
 #pragma once
 
 #include "platform/MessageBoxes.h"
@@ -20,7 +20,7 @@
 
 namespace korvane {
 
-// What the Windows of that name answers: "95", "98", "me", "nt4", "2000", "xp", "2003", "vista".
+// The version record of "95", "98", "me", "nt4", "2000", "xp", "2003" or "vista".
 std::optional<VersionRecord> versionNamed(std::string_view name);
 
 class MemoryVersion final : public VersionSource {
@@ -57,7 +57,7 @@ public:
     std::vector<Drive> logicalDrives() override { return drives; }
 };
 
-// Answers what the person at the machine would pick, one answer after the other; cancels when none is left.
+// Returns the given answers one after the other, as if the user had picked them; then cancels.
 class ScriptedPickers final : public Pickers {
 public:
     std::deque<std::string> answers;
@@ -108,14 +108,14 @@ struct MemoryFile {
     bool readOnly = false;
 };
 
-// Files by their exact path. They stay valid while they are open, even when they are put anew.
+// Files by their exact path. An open file stays valid even if it is put again.
 class MemoryFiles final : public Files {
 public:
     bool refusesCreation = false;
     bool diskFull = false;  // every rewrite fails and leaves the file as it is
 
     void put(const std::string& path, MemoryFile file);
-    // Null when there is no such file.
+    // Null if there is no such file.
     const MemoryFile* find(const std::string& path) const;
 
     std::unique_ptr<File> openExisting(const std::string& path) override;
@@ -125,7 +125,7 @@ private:
     std::map<std::string, std::shared_ptr<MemoryFile>> files_;
 };
 
-// All of it together. `clock` and `files` choose between the kinds there are; set them before taking the platform.
+// All parts together. Choose `clock` and `files` before taking the platform.
 struct MemorySystem {
     MemorySystem() = default;
     MemorySystem(const MemorySystem&) = delete;

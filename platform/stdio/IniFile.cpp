@@ -1,5 +1,5 @@
-// The rules are those that the platform's profile functions were seen to
-// follow; the tests run over them and over this reader alike.
+// The rules are those that the profile functions of Windows were observed to
+// follow; the same tests run over both.
 #include "platform/stdio/IniFile.h"
 
 #include "text/Codepage.h"
@@ -14,7 +14,7 @@ namespace {
 
 // The old end-of-file character counts as white space.
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r\x1a";
-// A file beyond this is no INI file and counts as missing.
+// A larger file counts as missing.
 constexpr std::size_t kLongestFile = 64 << 20;
 
 std::string_view trimmed(std::string_view text) {
@@ -27,7 +27,7 @@ std::string_view trimmed(std::string_view text) {
 
 std::string_view upToZero(std::string_view text) { return text.substr(0, text.find('\0')); }
 
-// Only the ASCII letters: in names, the others differ by case.
+// Only ASCII letters; in names, letter case matters for all others.
 std::string lowerCase(std::string_view text) {
     std::string lower(text);
     std::ranges::transform(lower, lower.begin(),
@@ -48,7 +48,7 @@ std::string fromUtf16(std::string_view bytes, bool bigEndian) {
     return toAnsi(units);
 }
 
-// 8-bit text is taken as it is.
+// 8-bit text is used unchanged.
 std::string decoded(std::string_view content) {
     if (content.starts_with("\xff\xfe")) {
         return fromUtf16(content.substr(2), false);
@@ -75,14 +75,14 @@ bool isSection(std::string_view line, std::string_view& sectionName) {
     return true;
 }
 
-// One matching pair of quotation marks around a value is not part of it.
+// One matching pair of quotation marks around a value is removed.
 std::string_view unquoted(std::string_view value) {
     const bool quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
                         value.back() == value.front();
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-// A default loses its trailing blanks, but not its first character.
+// A default loses its trailing spaces, but never its first character.
 std::string_view withoutTrailingBlanks(std::string_view text) {
     while (text.size() > 1 && text.back() == ' ') {
         text.remove_suffix(1);
@@ -92,8 +92,8 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
 
 }  // namespace
 
-// Lines before the first section belong to one without a name. A comment is a key that nobody asks for, as it is for
-// the platform.
+// Lines before the first section belong to a section without a name. As in Windows, a comment is a key that nobody asks
+// for.
 IniText::IniText(std::string_view content) {
     const std::string text = decoded(content);
     std::set<std::string> sections{""};

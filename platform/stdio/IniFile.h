@@ -1,5 +1,5 @@
-// Reads INI files and answers as the platform's profile functions do, oddities
-// included, on every system.
+// Reads INI files with the same results as the profile functions of Windows,
+// oddities included, on every system.
 #pragma once
 
 #include "platform/System.h"
@@ -12,15 +12,15 @@
 
 namespace korvane {
 
-// One parsed INI text. Any bytes are accepted; a line that means nothing is passed over.
+// A parsed INI text. Any bytes are accepted; meaningless lines are skipped.
 class IniText {
 public:
     IniText() = default;
-    // 8-bit text, or UTF-8 or UTF-16 with a byte order mark, which becomes 8-bit.
+    // 8-bit text, or UTF-8 or UTF-16 with a byte order mark, which is converted to 8-bit.
     explicit IniText(std::string_view content);
 
-    // The value as it stands behind the equals sign, without the white space around it; null when the section, the key
-    // or its equals sign is missing. Of several sections, or of several keys in one, the first counts.
+    // The value after the equals sign, without the white space around it; null if the section, the key or the equals
+    // sign is missing. Of several sections or keys of one name, the first counts.
     const std::string* find(std::string_view section, std::string_view key) const;
 
 private:
@@ -32,7 +32,7 @@ private:
 // Reads each file once and keeps it.
 class IniFile final : public ProfileStrings {
 public:
-    // Answers for that path from now on, without any file.
+    // Uses this text for that path from now on, instead of a file.
     void setContent(const std::string& file, std::string_view content);
 
     std::string getString(std::string_view section, std::string_view key, std::string_view defaultValue,

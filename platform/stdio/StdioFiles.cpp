@@ -1,5 +1,5 @@
-// Files are unbuffered, so that an error of the disk shows in the call that
-// causes it and never when the file is closed.
+// Files are unbuffered, so that a disk error appears in the call that causes it,
+// never when the file is closed.
 #include "platform/stdio/StdioFiles.h"
 
 #include <algorithm>
@@ -61,8 +61,7 @@ public:
                readToEnd(file_.get(), static_cast<std::size_t>(-1), text);
     }
 
-    // Writes over the old content and cuts the rest off only afterwards: when the disk is full, what was there before
-    // has not been thrown away first.
+    // Overwrites the old content and truncates only afterwards, so that a full disk does not lose what was there.
     bool rewrite(std::string_view text) override {
         return std::fseek(file_.get(), 0, SEEK_SET) == 0 &&
                std::fwrite(text.data(), 1, text.size(), file_.get()) == text.size() &&
@@ -71,7 +70,7 @@ public:
 
 private:
     FilePointer file_;
-    bool readable_;  // a C library may read nothing from a file open for writing and call that success
+    bool readable_;  // some C libraries read nothing from a file open for writing and report success
 };
 
 std::unique_ptr<File> wrapped(FilePointer file, bool readable) {

@@ -1,6 +1,6 @@
-// Real files through the C library, for the programs that run without the
-// Windows platform classes. Paths are written with backslashes, as everywhere
-// in the program; elsewhere than on Windows they are read as slashes.
+// Real files through the C library, for programs without the Windows platform
+// classes. Paths have backslashes, as everywhere in the program; except on Windows
+// they are read as slashes.
 #pragma once
 
 #include "platform/System.h"
@@ -11,10 +11,10 @@
 
 namespace korvane {
 
-// The path as the C library of this system wants it.
+// The path in the form of this system's C library.
 std::string nativePath(std::string path);
 
-// False, with the text unchanged, when the file cannot be read or has more bytes than the limit.
+// False, with the text unchanged, if the file cannot be read or is larger than the limit.
 bool readWholeFile(const std::string& path, std::size_t limit, std::string& text);
 
 class StdioFiles final : public Files {
