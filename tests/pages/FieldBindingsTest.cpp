@@ -48,7 +48,7 @@ TEST(FieldBindings, ApplyWhatWasTypedOrDoWithAnEmptyTextWhatTheRowSays) {
         {"empty text has no bytes", StringValue{kKey, "V", WhenEmpty::WritesEmpty}, "", "hex(1):", "stamp "},
         {"number", number, " 12 seconds", "dword:c", "stamp "},
         {"negative", number, "-1", "dword:ffffffff", "stamp "},
-        {"number deleted", numberDeletes, "", "", ""},
+        {"number deleted", numberDeletes, "", "", "stamp "},
     };
     for (const Case& each : cases) {
         OneField page(each.binding, stored("\"old\""), Stamp::WhenOpen);
