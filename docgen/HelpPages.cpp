@@ -2,7 +2,7 @@
 // element closed, anchors by name and by id.
 #include "docgen/HelpPages.h"
 
-#include "docgen/BindingText.h"
+#include "docgen/TweakControls.h"
 #include "docgen/HelpProject.h"
 #include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
@@ -125,84 +125,47 @@ std::string states(const TextLine& line) {
 
 // ---- The controls of a tweak
 
-struct ControlsText {
-    const Tweak& tweak;
-    std::string text = {};
-
-    void add(std::string_view name, std::string_view kind, int control, BindingText described) {
-        const BindingText binding = unlessTold(tweak, std::move(described));
-        text += "<dt>" + (name.empty() ? "" : element("b", label(name)) + " ");
-        text += styled("span", "kind", std::string(kind) + ' ' + std::to_string(control)) + "</dt>\n";
-        for (const TextLine& place : binding.places) {
-            text += element("dd", html(place)) + "\n";
-        }
-        if (!tweak.showOnly) {
-            for (const TextLine& effect : binding.effects) {
-                text += element("dd", states(effect)) + "\n";
-            }
-        }
+// The rows of a list without a binding.
+std::string rowsOf(const Table& table) {
+    std::string rows;
+    for (const TableColumn& column : table.columns) {
+        rows += element("th", escapeHtml(column.heading));
     }
-
-    void addFixed(const BindingText& binding) {
-        text += "<dt>" + styled("span", "kind", "no control") + "</dt>\n";
-        text += element("dd", html(binding.places.front())) + "\n" + element("dd", states(binding.effects.front())) + "\n";
-    }
-
-    // The rows of a list without a binding.
-    void addRows(const Table& table) {
-        std::string rows;
-        for (const TableColumn& column : table.columns) {
-            rows += element("th", escapeHtml(column.heading));
+    rows = element("tr", rows);
+    const std::size_t columns = table.columns.size();
+    for (std::size_t row = 0; row * columns < table.cells.size(); ++row) {
+        std::string cells;
+        for (const std::string_view cell : table.cells.subspan(row * columns, columns)) {
+            cells += element("td", escapeHtml(cell));
         }
-        rows = element("tr", rows);
-        const std::size_t columns = table.columns.size();
-        for (std::size_t row = 0; row * columns < table.cells.size(); ++row) {
-            std::string cells;
-            for (const std::string_view cell : table.cells.subspan(row * columns, columns)) {
-                cells += element("td", escapeHtml(cell));
-            }
-            rows += element("tr", cells);
-        }
-        text += element("dd", element("table", rows)) + "\n";
+        rows += element("tr", cells);
     }
-};
-
-void addList(ControlsText& controls) {
-    const Tweak& tweak = controls.tweak;
-    const BindingText binding = describe(*tweak.table);
-    const bool checked = tweak.page == Page::CheckList;
-    controls.add({}, checked ? "list of check boxes" : "list", layoutOf(tweak.page).list, binding);
-    if (binding.effects.empty() && !tweak.table->cells.empty()) {
-        controls.addRows(*tweak.table);
-    }
+    return element("dd", element("table", rows)) + "\n";
 }
 
-// From the top of the page to its bottom.
-std::string controlsOf(const Tweak& tweak) {
-    ControlsText controls{.tweak = tweak};
-    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
-        controls.add(tweak.boxes[i].text, "check box", boxControl(tweak, i), describe(tweak.boxes[i]));
+std::string textOf(const Tweak& tweak, const ControlText& control) {
+    const BindingText binding = unlessTold(tweak, control.binding);
+    const std::string id = control.control == 0 ? "" : ' ' + std::to_string(control.control);
+    std::string text = "<dt>" + (control.name.empty() ? "" : element("b", label(control.name)) + " ");
+    text += styled("span", "kind", std::string(control.kind) + id) + "</dt>\n";
+    for (const TextLine& place : binding.places) {
+        text += element("dd", html(place)) + "\n";
     }
-    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-        const Field& field = tweak.fields[i];
-        controls.add(field.label, "edit box", fieldControls(tweak, i).edit, describe(field));
-    }
-    if (tweak.colour != nullptr) {
-        controls.add(tweak.colour->label, "color list", IDC_COLOUR_COMBO, describe(*tweak.colour));
-    }
-    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
-        const Choice& choice = tweak.choices[i];
-        controls.add(choice.label, "combo box", choiceControls(tweak, i).combo, describe(choice));
-    }
-    if (tweak.table != nullptr) {
-        addList(controls);
-    }
-    for (const auto& texts : {tweak.writesFirst, tweak.writesLast}) {
-        for (const FixedText& fixed : texts) {
-            controls.addFixed(describe(fixed));
+    if (!tweak.showOnly) {
+        for (const TextLine& effect : binding.effects) {
+            text += element("dd", states(effect)) + "\n";
         }
     }
-    return controls.text.empty() ? controls.text : "<dl>\n" + controls.text + "</dl>\n";
+    const bool listsRows = tweak.table != nullptr && control.control == layoutOf(tweak.page).list;
+    return listsRows && binding.effects.empty() && !tweak.table->cells.empty() ? text + rowsOf(*tweak.table) : text;
+}
+
+std::string controlsOf(const Tweak& tweak) {
+    std::string text;
+    for (const ControlText& control : controlTexts(tweak)) {
+        text += textOf(tweak, control);
+    }
+    return text.empty() ? text : "<dl>\n" + text + "</dl>\n";
 }
 
 // ---- A tweak

@@ -1,7 +1,7 @@
 // Contents and index are lists of objects in the form that help compilers read.
 #include "docgen/HelpProject.h"
 
-#include "docgen/BindingText.h"
+#include "docgen/TweakControls.h"
 #include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
 
@@ -90,9 +90,7 @@ struct Keyword {
 };
 
 // The names of values and keys with which the place of a binding begins: `Name` and `Other` (REG_DWORD) in `KEY`.
-template <typename Control>
-void addNames(std::vector<Keyword>& keywords, const Tweak& tweak, const Control& control) {
-    const BindingText binding = describe(control);
+void addNames(std::vector<Keyword>& keywords, const Tweak& tweak, const BindingText& binding) {
     if (binding.places.empty()) {
         return;
     }
@@ -108,15 +106,8 @@ void addNames(std::vector<Keyword>& keywords, const Tweak& tweak, const Control&
 
 void addTweak(std::vector<Keyword>& keywords, const Tweak& tweak) {
     keywords.push_back({escapeHtml(tweak.title), escapeHtml(tweak.title), helpAddress(tweak.id)});
-    const auto add = [&](const auto& control) { addNames(keywords, tweak, control); };
-    std::ranges::for_each(tweak.boxes, add);
-    std::ranges::for_each(tweak.fields, add);
-    std::ranges::for_each(tweak.choices, add);
-    if (tweak.colour != nullptr) {
-        add(*tweak.colour);
-    }
-    if (tweak.table != nullptr) {
-        add(*tweak.table);
+    for (const ControlText& control : controlTexts(tweak)) {
+        addNames(keywords, tweak, control.binding);
     }
 }
 

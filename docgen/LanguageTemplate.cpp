@@ -118,25 +118,22 @@ void writeOverviews(Writer& writer) {
     writeTable(writer, IDC_LIST, kColumns, {});
 }
 
+void writeControl(Writer& writer, const CheckBox& box, int id) { writer.value(id, box.text); }
+void writeControl(Writer& writer, const Field& field, const RowControls& row) { writer.value(row.label, field.label); }
+void writeControl(Writer& writer, const ColourField& colour, const RowControls& row) {
+    writer.value(row.label, colour.label);
+}
+void writeControl(Writer& writer, const Choice& choice, const RowControls& row) {
+    writer.value(row.label, choice.label);
+    writeEntries(writer, row.combo, choice.binding);
+}
+void writeControl(Writer& writer, const Table& table, int list) {
+    writeTable(writer, list, table.columns, table.cells);
+}
+
 void writePage(Writer& writer, const Tweak& tweak) {
     writer.section(itemSection(tweak.id));
-    for (std::size_t i = 0; i < tweak.boxes.size(); ++i) {
-        writer.value(boxControl(tweak, i), tweak.boxes[i].text);
-    }
-    for (std::size_t i = 0; i < tweak.fields.size(); ++i) {
-        writer.value(fieldControls(tweak, i).label, tweak.fields[i].label);
-    }
-    if (tweak.colour != nullptr) {
-        writer.value(IDC_LABEL1, tweak.colour->label);
-    }
-    for (std::size_t i = 0; i < tweak.choices.size(); ++i) {
-        const RowControls row = choiceControls(tweak, i);
-        writer.value(row.label, tweak.choices[i].label);
-        writeEntries(writer, row.combo, tweak.choices[i].binding);
-    }
-    if (tweak.table != nullptr) {
-        writeTable(writer, layoutOf(tweak.page).list, tweak.table->columns, tweak.table->cells);
-    }
+    forEachControl(tweak, [&](const auto& control, const auto& ids) { writeControl(writer, control, ids); });
     if (layoutOf(tweak.page).note != 0) {
         writer.value(layoutOf(tweak.page).note, tweak.note);
     }

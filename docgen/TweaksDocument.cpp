@@ -2,7 +2,7 @@
 // break.
 #include "docgen/TweaksDocument.h"
 
-#include "docgen/BindingText.h"
+#include "docgen/TweakControls.h"
 #include "catalogue/Catalogue.h"
 
 #include <utility>
@@ -86,9 +86,10 @@ void addLines(std::string& document, const std::vector<TextLine>& lines) {
     }
 }
 
-void addControl(std::string& document, const Tweak& tweak, const std::string& name, BindingText described) {
-    const BindingText binding = unlessTold(tweak, std::move(described));
-    document += "- " + name;
+void addControl(std::string& document, const Tweak& tweak, const ControlText& control) {
+    const BindingText binding = unlessTold(tweak, control.binding);
+    const std::string unnamed = (control.control != 0 ? "the " : "") + std::string(control.kind);
+    document += "- " + (control.name.empty() ? unnamed : label(control.name));
     addLines(document, binding.places);
     if (!tweak.showOnly) {
         addLines(document, binding.effects);
@@ -121,29 +122,6 @@ std::string overviewOf(const Tweak& category) {
     return text + '.';
 }
 
-void addControls(std::string& document, const Tweak& tweak) {
-    for (const CheckBox& box : tweak.boxes) {
-        addControl(document, tweak, label(box.text), describe(box));
-    }
-    for (const Field& field : tweak.fields) {
-        addControl(document, tweak, label(field.label), describe(field));
-    }
-    if (tweak.colour != nullptr) {
-        addControl(document, tweak, label(tweak.colour->label), describe(*tweak.colour));
-    }
-    for (const Choice& choice : tweak.choices) {
-        addControl(document, tweak, label(choice.label), describe(choice));
-    }
-    if (tweak.table != nullptr) {
-        addControl(document, tweak, "the list", describe(*tweak.table));
-    }
-    for (const auto& texts : {tweak.writesFirst, tweak.writesLast}) {
-        for (const FixedText& fixed : texts) {
-            addControl(document, tweak, "no control", describe(fixed));
-        }
-    }
-}
-
 void addLine(std::string& document, std::string_view name, std::string_view text) {
     if (!text.empty()) {
         document.append("\n").append(name).append(": ").append(markdown(markedText(text))).append("\n");
@@ -160,7 +138,9 @@ void addTweak(std::string& document, const Tweak& tweak) {
     }
     document += ' ' + acceptedBy(tweak.gate) + '.';
     document += tweak.showOnly ? " The page only shows what is set; nothing is written.\n\n" : "\n\n";
-    addControls(document, tweak);
+    for (const ControlText& control : controlTexts(tweak)) {
+        addControl(document, tweak, control);
+    }
     addLine(document, "Registry", tweak.registry);
     addLine(document, "Source", tweak.source);
     document += '\n';
