@@ -11,20 +11,31 @@ namespace {
 
 // The HTML Help control's in-process server.
 constexpr std::string_view kServerKey = "CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32";
+// The classes of the whole machine; in HKEY_CLASSES_ROOT those of the user stand before them.
+constexpr std::string_view kMachineClasses = "Software\\Classes\\";
 constexpr std::size_t kPathBuffer = 260;
 constexpr const char* kLibraryName = "hhctrl.ocx";
 constexpr int kHelpOrdinal = 14;  // the 8-bit help function
 
 }  // namespace
 
+// Any program of the user can write the user's own classes. What an elevated program loads is therefore what the
+// machine's classes say as well; comparing the two leaves no moment in which one could still be exchanged.
 std::string HelpLoader::registeredPath() {
-    RegistryHandle root;
-    RegistryHandle key;
+    const std::string path = pathAt(Root::ClassesRoot, kServerKey);
+    const std::string machineKey = std::string(kMachineClasses).append(kServerKey);
+    const bool trusted = !library_.programIsElevated() || path == pathAt(Root::LocalMachine, machineKey);
+    return trusted ? path : std::string();
+}
+
+std::string HelpLoader::pathAt(Root root, std::string_view key) {
+    RegistryHandle rootKey;
+    RegistryHandle server;
     std::array<std::byte, kPathBuffer> buffer{};
     std::size_t size = 0;
-    if (registry_.connect(Root::ClassesRoot, root) != Status::Success ||
-        registry_.openKeyForReading(root, kServerKey, key) != Status::Success ||
-        registry_.queryValue(key, "", buffer, size) != Status::Success) {
+    if (registry_.connect(root, rootKey) != Status::Success ||
+        registry_.openKeyForReading(rootKey, key, server) != Status::Success ||
+        registry_.queryValue(server, "", buffer, size) != Status::Success) {
         return {};
     }
     const char* first = reinterpret_cast<const char*>(buffer.data());

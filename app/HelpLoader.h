@@ -19,6 +19,7 @@ public:
 private:
     bool load();
     std::string registeredPath();
+    std::string pathAt(Root root, std::string_view key);
 
     Registry& registry_;
     HelpLibrary& library_;

@@ -72,7 +72,7 @@ bool CMainDlg::OnInitDialog() {
     window_.createDivider(IDC_DIVIDER, kDividerRangeLeft, kDividerRangeRight);
     setUpTree();
     buildTree();
-    language_.translateDialog(window_.controls(), IDD_MAIN);
+    translateWindow();
     createPages();
     hideAllPages();
     moduleById_[0]->Show(0);
@@ -82,6 +82,7 @@ bool CMainDlg::OnInitDialog() {
 void CMainDlg::appendAboutItem() {
     const std::string text = app_.LoadString(kStringAboutItem);
     if (!text.empty()) {
+        window_.appendSystemMenuSeparator();
         window_.appendSystemMenu(IDM_ABOUT, text);
     }
 }
@@ -114,7 +115,9 @@ bool CMainDlg::applySkinElement(DialogControls& dialog, const SkinElement& eleme
     return skin_ != nullptr && !failed(skin_->ApplySkinElement(dialog, element.control, element.element));
 }
 
+// The splash would cover the message.
 void CMainDlg::showSkinFailure() {
+    window_.splash().hide();
     app_.platform().messages.show({.text = "Could load or apply the skin.",
                                    .caption = std::string(kProgramTitle),
                                    .ownedByMainWindow = true});
@@ -158,6 +161,12 @@ void CMainDlg::buildTree() {
         tree.SetItemBold(rows[id], tweak.isCategory());
         tree.SetItemImage(rows[id], item.image, item.image, item.image, item.image);
     }
+}
+
+// The menu's item was made before the user's language was known.
+void CMainDlg::translateWindow() {
+    language_.translateDialog(window_.controls(), IDD_MAIN);
+    window_.setSystemMenuText(IDM_ABOUT, app_.LoadString(kStringAboutItem));
 }
 
 void CMainDlg::createPages() {

@@ -63,6 +63,7 @@ private:
     void fillImageList();
     void setUpTree();
     void buildTree();
+    void translateWindow();
     void createPages();
     void hideAllPages();
     CCatalogModule* moduleOf(std::uint32_t id);

@@ -22,7 +22,8 @@ constexpr std::string_view kIntroduction =
     ";\r\n"
     "; [100] the About box, [102] the main window: the caption under the section's own number, then the controls.\r\n"
     "; [106] the headings of the overviews.\r\n"
-    "; [1004] the items: the ItemId with a 2 behind it is the title, with a 3 the description.\r\n"
+    "; [1004] the items: the ItemId with a 2 behind it is the title, with a 3 the description. A title has no comma and\r\n"
+    "; no quotation mark, and is no other item's: it is the key under which the item's date is kept.\r\n"
     "; [KorvaneManagerStringTable] the messages. [ItemN] the page of the item N.\r\n";
 
 bool fits(std::string_view text) {

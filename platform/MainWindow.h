@@ -21,8 +21,10 @@ public:
     // The engine of control 1057; null if there is none.
     virtual ISkinEngine* skinEngine() = 0;
 
-    // Appends a separator and an item to the system menu.
+    // The end of the system menu; and the text of an item that was appended before.
+    virtual void appendSystemMenuSeparator() = 0;
     virtual void appendSystemMenu(int commandId, std::string_view text) = 0;
+    virtual void setSystemMenuText(int commandId, std::string_view text) = 0;
     virtual void setIcons(int resourceId) = 0;  // the big and the small icon
     // Creates the tree's empty image list (images of `size` by `size` pixels, 24-bit colour); then adds one bitmap
     // resource to it.

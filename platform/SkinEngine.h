@@ -29,6 +29,7 @@ public:
     virtual void setFile(const std::string& path) = 0;       // dispatch id 22
     virtual void setMinimumTime(std::int32_t milliseconds) = 0;  // dispatch id 19
     virtual void showSplash(bool wait) = 0;                  // dispatch id 15
+    virtual void hide() = 0;  // at once; nothing when it is not shown
 };
 
 }  // namespace korvane

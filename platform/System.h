@@ -99,6 +99,9 @@ public:
 class HelpLibrary {
 public:
     virtual ~HelpLibrary() = default;
+    // True if this program has rights that other programs of the same user lack (Vista and later): then what those can
+    // write must not decide which code it loads.
+    virtual bool programIsElevated() = 0;
     virtual bool load(const std::string& path) = 0;  // true if the module was loaded; it stays loaded
     virtual bool findFunction(int ordinal) = 0;      // in the loaded module
     // Calls the help function with caller, file, command and data; returns its result.

@@ -183,10 +183,17 @@ void Win32MainWindow::onDestroy() {
 
 // ---- What the owner asks for
 
+void Win32MainWindow::appendSystemMenuSeparator() {
+    AppendMenuA(GetSystemMenu(window_, FALSE), MF_SEPARATOR, 0, nullptr);
+}
+
 void Win32MainWindow::appendSystemMenu(int commandId, std::string_view text) {
-    const HMENU menu = GetSystemMenu(window_, FALSE);
-    AppendMenuA(menu, MF_SEPARATOR, 0, nullptr);
-    AppendMenuA(menu, MF_STRING, static_cast<UINT_PTR>(commandId), std::string(text).c_str());
+    AppendMenuA(GetSystemMenu(window_, FALSE), MF_STRING, static_cast<UINT_PTR>(commandId), std::string(text).c_str());
+}
+
+void Win32MainWindow::setSystemMenuText(int commandId, std::string_view text) {
+    const auto id = static_cast<UINT>(commandId);
+    ModifyMenuA(GetSystemMenu(window_, FALSE), id, MF_BYCOMMAND | MF_STRING, id, std::string(text).c_str());
 }
 
 void Win32MainWindow::setIcons(int resourceId) {

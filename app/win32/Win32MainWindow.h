@@ -39,7 +39,9 @@ public:
     SplashWindow& splash() override { return *splash_; }
     ISkinEngine* skinEngine() override;
 
+    void appendSystemMenuSeparator() override;
     void appendSystemMenu(int commandId, std::string_view text) override;
+    void setSystemMenuText(int commandId, std::string_view text) override;
     void setIcons(int resourceId) override;
     void createImageList(int size, int initialImages, int growth) override;
     void addImage(int bitmapResource, Colour mask) override;

@@ -167,7 +167,11 @@ void MemoryDialog::moveControl(int id, const Rect& rect) {
     }
 }
 
-void MemoryDialog::setRedraw(int, bool) {}  // nothing is drawn
+void MemoryDialog::setRedraw(int id, bool on) {
+    if (MemoryControl* found = control(id)) {
+        found->redraws = on;
+    }
+}
 
 // ---- Check boxes
 

@@ -42,6 +42,7 @@ struct MemoryControl {
     std::string text{};  // an editable combo box: the text of its edit box; the colour list: unused
     bool visible = false;
     bool enabled = true;
+    bool redraws = true;
     Rect rect{};
 
     std::uint32_t check = 0;

@@ -5,6 +5,7 @@
 #include "res/ControlIds.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
 namespace korvane {
@@ -14,12 +15,29 @@ constexpr Hresult kRefused = static_cast<Hresult>(0x80004005);  // E_FAIL
 constexpr int kCancelled = 2;                                   // IDCANCEL, how WM_CLOSE ends a dialog
 constexpr int kConfirmed = 1;                                   // IDOK
 
+std::string word(std::string_view text) { return std::string(text); }
+std::string word(int number) { return std::to_string(number); }
+
+// As the platform's headers and tools write such words.
+std::string hexadecimal(std::uint32_t number) {
+    char text[8];
+    return {text, std::to_chars(text, text + sizeof text, number, 16).ptr};
+}
+
+template <class... Parts>
+void note(CallLog& log, std::string_view verb, const Parts&... parts) {
+    std::string line(verb);
+    ((line += ' ' + word(parts)), ...);
+    log.push_back(std::move(line));
+}
+
 }  // namespace
 
-void MemoryBackgroundImage::load(const std::string& file, int& pictureWidth, int& pictureHeight) {
-    path = file;
-    pictureWidth = width;
-    pictureHeight = height;
+// It has no size.
+void MemoryBackgroundImage::load(const std::string& path, int& width, int& height) {
+    note(log_, "tree background", path);
+    width = 0;
+    height = 0;
 }
 
 // ---- The tree
@@ -42,17 +60,23 @@ std::size_t MemoryTree::endOfSubtree(std::size_t index) const {
     return end;
 }
 
-void MemoryTree::InsertColumn(std::string_view heading, std::uint32_t, int width, int, int, int) {
-    columns_.push_back({.heading = std::string(heading), .width = width});
+void MemoryTree::SetStyle(std::uint32_t style) { note(log_, "tree style", hexadecimal(style)); }
+
+void MemoryTree::SetImageList() { note(log_, "tree image list"); }
+
+void MemoryTree::InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
+                              int order) {
+    note(log_, "tree column", '[' + std::string(heading) + ']', hexadecimal(format), width, image, subItem, order);
 }
 
-void MemoryTree::SetColumnWidth(int column, int width, int, int) {
-    if (column >= 0 && static_cast<std::size_t>(column) < columns_.size()) {
-        columns_[static_cast<std::size_t>(column)].width = width;
-    }
+void MemoryTree::SetColumnModify(int column, int modify) { note(log_, "tree column modify", column, modify); }
+
+void MemoryTree::SetColumnWidth(int column, int width, int minimum, int maximum) {
+    note(log_, "tree column width", column, width, minimum, maximum);
 }
 
 void MemoryTree::DeleteAllItems() {
+    note(log_, "tree cleared");
     rows_.clear();
     selectedData_.reset();
 }
@@ -90,10 +114,7 @@ void MemoryTree::SetItemBold(CTreeListItem item, bool bold) {
 
 void MemoryTree::SetItemImage(CTreeListItem item, int normal, int selected, int expanded, int expandedSelected) {
     if (MemoryTreeRow* row = find(item)) {
-        row->normalImage = normal;
-        row->selectedImage = selected;
-        row->expandedImage = expanded;
-        row->expandedSelectedImage = expandedSelected;
+        row->images = {normal, selected, expanded, expandedSelected};
     }
 }
 
@@ -104,30 +125,26 @@ bool MemoryTree::GetSelectedItemData(std::uint32_t& data) {
 
 // ---- Skin and splash
 
-Hresult ScriptedSkinEngine::record(SkinCall call) {
-    calls_.push_back(std::move(call));
-    return calls_.size() == refused_ ? kRefused : 0;
+Hresult ScriptedSkinEngine::answer(std::string call) {
+    log_.push_back(std::move(call));
+    return ++callCount_ == refused_ ? kRefused : 0;
 }
 
-Hresult ScriptedSkinEngine::LoadSkin(const std::string& path) {
-    return record({.verb = SkinCall::Verb::LoadSkin, .path = path});
+Hresult ScriptedSkinEngine::LoadSkin(const std::string& path) { return answer("skin " + path); }
+
+Hresult ScriptedSkinEngine::ApplySkin(DialogControls&) { return answer("skin applied"); }
+
+Hresult ScriptedSkinEngine::ApplySkinElement(DialogControls&, int controlId, std::string_view element) {
+    return answer("element " + word(controlId) + ' ' + word(element));
 }
 
-Hresult ScriptedSkinEngine::ApplySkin(DialogControls& mainWindow) {
-    return record({.verb = SkinCall::Verb::ApplySkin, .dialog = &mainWindow});
-}
+void MemorySplash::setFile(const std::string& path) { note(log_, "splash", path); }
 
-Hresult ScriptedSkinEngine::ApplySkinElement(DialogControls& dialog, int controlId, std::string_view element) {
-    return record({.verb = SkinCall::Verb::ApplySkinElement,
-                   .dialog = &dialog,
-                   .controlId = controlId,
-                   .element = std::string(element)});
-}
+void MemorySplash::setMinimumTime(std::int32_t milliseconds) { note(log_, "splash minimum time", milliseconds); }
 
-void MemorySplash::showSplash(bool wait) {
-    ++timesShown;
-    waited = wait;
-}
+void MemorySplash::showSplash(bool wait) { note(log_, wait ? "splash shown, waiting" : "splash shown"); }
+
+void MemorySplash::hide() { note(log_, "splash hidden"); }
 
 // ---- The window's life
 
@@ -155,26 +172,45 @@ void MemoryMainWindow::settle() {
     }
 }
 
+void MemoryMainWindow::appendSystemMenuSeparator() {
+    note(log_, "menu separator");
+    systemMenu_.emplace_back();
+}
+
 void MemoryMainWindow::appendSystemMenu(int commandId, std::string_view text) {
+    note(log_, "menu", commandId, text);
     systemMenu_.push_back({.commandId = commandId, .text = std::string(text)});
 }
 
-void MemoryMainWindow::createImageList(int size, int, int) {
-    imageSize_ = size;
-    images_.clear();
+void MemoryMainWindow::setSystemMenuText(int commandId, std::string_view text) {
+    note(log_, "menu text", commandId, text);
+    const auto found = std::ranges::find(systemMenu_, commandId, &SystemMenuItem::commandId);
+    if (found != systemMenu_.end()) {
+        found->text = text;
+    }
+}
+
+void MemoryMainWindow::setIcons(int resourceId) { note(log_, "icons", resourceId); }
+
+void MemoryMainWindow::createImageList(int size, int initialImages, int growth) {
+    note(log_, "image list", size, initialImages, growth);
 }
 
 void MemoryMainWindow::addImage(int bitmapResource, Colour mask) {
-    images_.push_back({.bitmapResource = bitmapResource, .mask = mask});
+    note(log_, "image", bitmapResource, hexadecimal(mask));
 }
 
+void MemoryMainWindow::redrawAll() { note(log_, "redrawn"); }
+
 void MemoryMainWindow::createDivider(int controlId, int rangeLeft, int rangeRight) {
+    note(log_, "divider", controlId, rangeLeft, rangeRight);
     dividerRect_ = dialog_.controlRect(controlId);
     roomLeft_ = rangeLeft;
     roomRight_ = rangeRight;
 }
 
 void MemoryMainWindow::createPage(int templateId, DialogHandler& handler) {
+    note(log_, "page", templateId);
     if (const DialogTemplate* found = findDialogTemplate(templateId)) {
         MemoryDialog& made = *pages_.emplace_back(std::make_unique<MemoryDialog>(*found));
         made.setHandler(handler);
@@ -184,6 +220,7 @@ void MemoryMainWindow::createPage(int templateId, DialogHandler& handler) {
 
 // The person at the machine presses OK.
 void MemoryMainWindow::runAboutBox(DialogHandler& handler) {
+    note(log_, "about box");
     aboutBox_ = std::make_unique<MemoryDialog>(*findDialogTemplate(IDD_ABOUT));
     aboutBox_->setHandler(handler);
     aboutBox_->show(true);
@@ -225,7 +262,7 @@ bool MemoryMainWindow::clickApply() { return dialog_.clickButton(IDC_APPLY); }
 // The low four bits of a system command are the platform's own.
 bool MemoryMainWindow::chooseSystemMenu(int commandId) {
     const bool offered = std::ranges::find(systemMenu_, commandId, &SystemMenuItem::commandId) != systemMenu_.end();
-    if (!running_ || !offered) {
+    if (!running_ || !offered || commandId == 0) {
         return false;
     }
     if ((commandId & 0xFFF0) == IDM_ABOUT) {

@@ -1,11 +1,12 @@
 // The main window without a screen: its dialogs are MemoryDialogs, its tree a
-// list of rows, its splash and skin engine write down what they are asked. A
-// caller acts for the person at the machine: selects a row, presses a button.
+// list of rows; what is only to be seen is written down, a line for each call.
+// A caller acts for the person at the machine: selects a row, presses a button.
 #pragma once
 
 #include "platform/MainWindow.h"
 #include "platform/memory/MemoryDialog.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -23,43 +24,39 @@ struct MemoryTreeRow {
     std::string text{};
     std::uint32_t data = 0;
     bool bold = false;
-    int normalImage = -1;
-    int selectedImage = -1;
-    int expandedImage = -1;
-    int expandedSelectedImage = -1;
+    std::array<int, 4> images{-1, -1, -1, -1};  // normal, selected, expanded, expanded and selected
 };
 
-struct MemoryTreeColumn {
-    std::string heading{};
-    int width = 0;
-};
+// What the window and its parts were asked for, in that order: "divider 1053 50 10". Calls that leave a state behind
+// which can be looked at (rows of the tree, controls of a dialog) are not in it.
+using CallLog = std::vector<std::string>;
 
-// A picture that is never drawn; it has the size that it is given here.
+// A picture that is never drawn.
 class MemoryBackgroundImage final : public BackgroundImage {
 public:
-    std::string path;  // of the last picture asked for
-    int width = 0;
-    int height = 0;
+    explicit MemoryBackgroundImage(CallLog& log) : log_(log) {}
 
-    void load(const std::string& file, int& pictureWidth, int& pictureHeight) override;
+    void load(const std::string& path, int& width, int& height) override;
+
+private:
+    CallLog& log_;
 };
 
 class MemoryTree final : public CTreeListCtrl {
 public:
+    explicit MemoryTree(CallLog& log) : log_(log), background_(log) {}
+
     const std::vector<MemoryTreeRow>& rows() const { return rows_; }  // from top to bottom
-    const std::vector<MemoryTreeColumn>& columns() const { return columns_; }
-    std::uint32_t style() const { return style_; }
-    bool hasImageList() const { return hasImageList_; }
     // The first row with that data; null when there is none.
     const MemoryTreeRow* findData(std::uint32_t data) const;
     // Selects without telling anybody. The data need not be that of a row.
     void select(std::uint32_t data) { selectedData_ = data; }
 
-    void SetStyle(std::uint32_t style) override { style_ = style; }
-    void SetImageList() override { hasImageList_ = true; }
+    void SetStyle(std::uint32_t style) override;
+    void SetImageList() override;
     void InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
                       int order) override;
-    void SetColumnModify(int, int) override {}
+    void SetColumnModify(int column, int modify) override;
     void SetColumnWidth(int column, int width, int minimum, int maximum) override;
     MemoryBackgroundImage& GetBGImage() override { return background_; }
 
@@ -74,65 +71,56 @@ private:
     MemoryTreeRow* find(CTreeListItem item);
     std::size_t endOfSubtree(std::size_t index) const;
 
+    CallLog& log_;
     std::vector<MemoryTreeRow> rows_;
-    std::vector<MemoryTreeColumn> columns_;
-    std::uint32_t style_ = 0;
-    bool hasImageList_ = false;
     std::optional<std::uint32_t> selectedData_;
     CTreeListItem lastItem_ = kRootItem;
     MemoryBackgroundImage background_;
 };
 
-struct SkinCall {
-    enum class Verb { LoadSkin, ApplySkin, ApplySkinElement };
-    Verb verb = Verb::LoadSkin;
-    std::string path{};                 // LoadSkin
-    DialogControls* dialog = nullptr;   // the two others
-    int controlId = 0;                  // ApplySkinElement
-    std::string element{};              // ApplySkinElement
-};
-
 class ScriptedSkinEngine final : public ISkinEngine {
 public:
-    const std::vector<SkinCall>& calls() const { return calls_; }
+    explicit ScriptedSkinEngine(CallLog& log) : log_(log) {}
+
+    int callCount() const { return callCount_; }
     // Refuses the n-th call from the start, counted from 1, and no other; 0 refuses none.
-    void refuseCall(std::size_t number) { refused_ = number; }
+    void refuseCall(int number) { refused_ = number; }
 
     Hresult LoadSkin(const std::string& path) override;
     Hresult ApplySkin(DialogControls& mainWindow) override;
     Hresult ApplySkinElement(DialogControls& dialog, int controlId, std::string_view element) override;
 
 private:
-    Hresult record(SkinCall call);
+    Hresult answer(std::string call);
 
-    std::vector<SkinCall> calls_;
-    std::size_t refused_ = 0;
+    CallLog& log_;
+    int callCount_ = 0;
+    int refused_ = 0;
 };
 
 class MemorySplash final : public SplashWindow {
 public:
-    std::string file;
-    std::int32_t minimumTime = 0;
-    int timesShown = 0;
-    bool waited = false;  // the last time it was shown
+    explicit MemorySplash(CallLog& log) : log_(log) {}
 
-    void setFile(const std::string& path) override { file = path; }
-    void setMinimumTime(std::int32_t milliseconds) override { minimumTime = milliseconds; }
+    void setFile(const std::string& path) override;
+    void setMinimumTime(std::int32_t milliseconds) override;
     void showSplash(bool wait) override;
+    void hide() override;
+
+private:
+    CallLog& log_;
 };
 
 class MemoryMainWindow final : public MainWindow {
 public:
     struct SystemMenuItem {
-        int commandId = 0;
+        int commandId = 0;  // 0: a separator
         std::string text{};
-    };
-    struct TreeImage {
-        int bitmapResource = 0;
-        Colour mask = 0;
     };
 
     MemoryMainWindow();
+    MemoryMainWindow(const MemoryMainWindow&) = delete;
+    MemoryMainWindow& operator=(const MemoryMainWindow&) = delete;
 
     // Shows the window and lets the handler initialise it. False when the window has ended already; the handler, which
     // outlives the window, has then been told of its end.
@@ -157,11 +145,8 @@ public:
     MemoryDialog& dialog() { return dialog_; }
     // The About box as it was last shown; null before.
     const MemoryDialog* aboutBox() const { return aboutBox_.get(); }
+    const CallLog& calls() const { return log_; }
     const std::vector<SystemMenuItem>& systemMenu() const { return systemMenu_; }
-    const std::vector<TreeImage>& images() const { return images_; }
-    int iconResource() const { return iconResource_; }
-    int imageSize() const { return imageSize_; }
-    int timesRedrawn() const { return timesRedrawn_; }
     const Rect& dividerRect() const { return dividerRect_; }
     void offerSkinEngine(bool offered) { skinOffered_ = offered; }
 
@@ -169,14 +154,16 @@ public:
     MemoryTree& tree() override { return tree_; }
     MemorySplash& splash() override { return splash_; }
     ScriptedSkinEngine* skinEngine() override { return skinOffered_ ? &skin_ : nullptr; }
+    void appendSystemMenuSeparator() override;
     void appendSystemMenu(int commandId, std::string_view text) override;
-    void setIcons(int resourceId) override { iconResource_ = resourceId; }
+    void setSystemMenuText(int commandId, std::string_view text) override;
+    void setIcons(int resourceId) override;
     void createImageList(int size, int initialImages, int growth) override;
     void addImage(int bitmapResource, Colour mask) override;
     void createDivider(int controlId, int rangeLeft, int rangeRight) override;
     void createPage(int templateId, DialogHandler& handler) override;
     void runAboutBox(DialogHandler& handler) override;
-    void redrawAll() override { ++timesRedrawn_; }
+    void redrawAll() override;
     // Closes the window once the handler has returned from what it is told at the moment.
     void postClose() override { closePosted_ = true; }
     void sendShowHelp() override { handler_->OnHelp(); }
@@ -198,19 +185,16 @@ private:
     MainWindowHandler* handler_ = nullptr;
     bool running_ = false;
     bool closePosted_ = false;
+    CallLog log_;
     Clicks clicks_{*this};
     MemoryDialog dialog_;
-    MemoryTree tree_;
-    MemorySplash splash_;
-    ScriptedSkinEngine skin_;
+    MemoryTree tree_{log_};
+    MemorySplash splash_{log_};
+    ScriptedSkinEngine skin_{log_};
     bool skinOffered_ = true;
     std::vector<std::unique_ptr<MemoryDialog>> pages_;
     std::unique_ptr<MemoryDialog> aboutBox_;
     std::vector<SystemMenuItem> systemMenu_;
-    std::vector<TreeImage> images_;
-    int iconResource_ = 0;
-    int imageSize_ = 0;
-    int timesRedrawn_ = 0;
     Rect dividerRect_;
     int roomLeft_ = 0;  // how far the divider can still be dragged
     int roomRight_ = 0;

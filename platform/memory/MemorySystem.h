@@ -87,6 +87,7 @@ public:
         std::uintptr_t data = 0;
     };
 
+    bool elevated = false;                           // what the program is
     std::vector<std::string> modules{"hhctrl.ocx"};  // what can be loaded
     std::vector<int> ordinals{14};                   // what a loaded module exports
     std::uintptr_t result = 1;                       // of each call
@@ -94,6 +95,7 @@ public:
     std::vector<std::string> asked;  // every module that was to be loaded
     std::vector<Call> calls;
 
+    bool programIsElevated() override { return elevated; }
     bool load(const std::string& path) override;
     bool findFunction(int ordinal) override;
     std::uintptr_t call(std::uintptr_t caller, const std::string& file, unsigned command, std::uintptr_t data) override;

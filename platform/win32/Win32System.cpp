@@ -151,6 +151,25 @@ std::unique_ptr<File> Win32Files::createAlways(const std::string& path) {
                                FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
+// A token knows of elevation since Vista; older systems refuse the question, and 98 has no tokens at all.
+bool Win32HelpLibrary::programIsElevated() {
+    using OpenToken = BOOL(WINAPI*)(HANDLE, DWORD, HANDLE*);
+    using TokenInformation = BOOL(WINAPI*)(HANDLE, TOKEN_INFORMATION_CLASS, void*, DWORD, DWORD*);
+    constexpr auto kElevation = static_cast<TOKEN_INFORMATION_CLASS>(20);
+    const HMODULE library = GetModuleHandleA("advapi32.dll");
+    const auto openToken = findFunctionIn<OpenToken>(library, "OpenProcessToken");
+    const auto tokenInformation = findFunctionIn<TokenInformation>(library, "GetTokenInformation");
+    HANDLE token = nullptr;
+    if (openToken == nullptr || tokenInformation == nullptr || !openToken(GetCurrentProcess(), TOKEN_QUERY, &token)) {
+        return false;
+    }
+    DWORD elevated = 0;
+    DWORD size = 0;
+    const BOOL answered = tokenInformation(token, kElevation, &elevated, sizeof elevated, &size);
+    CloseHandle(token);
+    return answered && elevated != 0;
+}
+
 bool Win32HelpLibrary::load(const std::string& path) {
     const HMODULE module = LoadLibraryA(path.c_str());
     if (module != nullptr) {

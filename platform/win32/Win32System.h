@@ -44,6 +44,7 @@ public:
 
 class Win32HelpLibrary final : public HelpLibrary {
 public:
+    bool programIsElevated() override;
     bool load(const std::string& path) override;
     bool findFunction(int ordinal) override;
     std::uintptr_t call(std::uintptr_t caller, const std::string& file, unsigned command, std::uintptr_t data) override;

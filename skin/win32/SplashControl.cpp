@@ -196,6 +196,7 @@ LRESULT CALLBACK controlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
         switch (message) {
             case kSplashMethod: return control->call(wParam, lParam);
             case kSplashMainShown: control->mainWindowShown(); return 0;
+            case kSplashHide:
             case WM_TIMER: control->close(); return 0;
             case WM_ERASEBKGND: eraseAsParent(window, reinterpret_cast<HDC>(wParam)); return 1;
             case WM_NCDESTROY:
@@ -233,6 +234,8 @@ void Win32Splash::setMinimumTime(std::int32_t milliseconds) {
 }
 
 void Win32Splash::showSplash(bool wait) { SendMessageA(control_, kSplashMethod, kMethodShow, wait); }
+
+void Win32Splash::hide() { SendMessageA(control_, kSplashHide, 0, 0); }
 
 void Win32Splash::close() { PostMessageA(control_, kSplashMainShown, 0, 0); }
 

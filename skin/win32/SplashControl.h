@@ -18,6 +18,8 @@ constexpr char kSplashClass[] = "Korvane.Splash";
 constexpr UINT kSplashMethod = WM_USER + 101;
 // The main window is on the screen: the picture goes, or when its time is not over yet, as soon as it is.
 constexpr UINT kSplashMainShown = WM_USER + 102;
+// The picture goes at once, whatever its least time.
+constexpr UINT kSplashHide = WM_USER + 103;
 
 // Needed before a dialog with such a control can be made.
 void registerSplashClass(HINSTANCE instance);
@@ -30,6 +32,7 @@ public:
     void setFile(const std::string& path) override;
     void setMinimumTime(std::int32_t milliseconds) override;
     void showSplash(bool wait) override;
+    void hide() override;
 
     // For the main window when it is about to be shown. The picture stays until it is there, so that no hole flashes
     // in between.

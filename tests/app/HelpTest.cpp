@@ -8,6 +8,9 @@ namespace {
 constexpr std::string_view kServer =
     "[HKEY_CLASSES_ROOT\\CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32]\n@=";
 
+constexpr const char* kMachineServer =
+    "[HKEY_LOCAL_MACHINE\\Software\\Classes\\CLSID\\{ADB880A6-D8FF-11CF-9377-00AA003B7A11}\\InprocServer32]\n@=\"";
+
 struct Help {
     explicit Help(std::string_view registryText) { loadRegistry(registry, registryText); }
     std::uintptr_t call() { return loader.call(1, "file.chm", 2, 3); }
@@ -29,12 +32,29 @@ TEST(Help, LoadsTheRegisteredLibraryOnceAndFallsBackToTheLibrarysName) {
     EXPECT_EQ(help.library.calls.size(), 2u);
     EXPECT_EQ(help.registry.openHandles(), 0u);
 
-    const std::string tooLong(260, 'x');  // with its zero
-    for (const std::string& registered : {std::string("C:\\\\gone.ocx"), std::string(), tooLong}) {
+    // The longest path has 259 characters, with its zero 260.
+    const std::string longest(259, 'x');
+    for (const auto& [registered, asked] : {std::pair<std::string, Paths>{"gone.ocx", {"gone.ocx", "hhctrl.ocx"}},
+                                            {"", {"hhctrl.ocx"}},
+                                            {longest, {longest, "hhctrl.ocx"}},
+                                            {longest + 'x', {"hhctrl.ocx"}}}) {
         Help other(std::string(kServer) + '"' + registered + "\"\n");
         EXPECT_EQ(other.call(), 1u);
-        EXPECT_EQ(other.library.asked.back(), "hhctrl.ocx");
-        EXPECT_NE(other.library.asked.front(), tooLong);
+        EXPECT_EQ(other.library.asked, asked);
+    }
+}
+
+// The user's own classes hide the machine's, and any program of the user's can write them.
+TEST(Help, TakesNoLibraryOfTheUsersIntoAnElevatedProgram) {
+    for (const char* machine : {"user.ocx", "machine.ocx", ""}) {
+        for (const bool elevated : {false, true}) {
+            Help help(std::string(kServer) + "\"user.ocx\"\n" + kMachineServer + machine + "\"\n");
+            help.library.elevated = elevated;
+            help.library.modules = {"user.ocx", "hhctrl.ocx"};
+            EXPECT_EQ(help.call(), 1u);
+            const bool trusted = !elevated || machine == std::string_view("user.ocx");
+            EXPECT_EQ(help.library.asked, Paths{trusted ? "user.ocx" : "hhctrl.ocx"}) << machine;
+        }
     }
 }
 

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <string>
 
@@ -295,28 +294,6 @@ TEST(Catalogue, BindingsAreWellFormed) {
             }
         }
     });
-}
-
-// ---- Pages
-
-// Statics, check boxes and buttons are the skin's; edit boxes, combos and lists are not.
-TEST(PageLayouts, HandEachOfTheirControlsToTheSkinOnce) {
-    const std::map<ControlKind, std::string_view> elements = {{ControlKind::CheckBox, "CheckBox"},
-                                                              {ControlKind::Button, "Button"},
-                                                              {ControlKind::Header, "Label"},
-                                                              {ControlKind::Label, "Label"},
-                                                              {ControlKind::Note, "Label"}};
-    for (int index = 0; index < kPageCount; ++index) {
-        const PageLayout& layout = layoutOf(static_cast<Page>(index));
-        SCOPED_TRACE(layout.templateId);
-        ASSERT_FALSE(layout.skin.empty());
-        EXPECT_EQ(layout.skin[0].control, 0);
-        for (const ControlTemplate& control : findDialogTemplate(layout.templateId)->controls) {
-            const auto skinned = std::ranges::find(layout.skin, control.id, &SkinElement::control);
-            EXPECT_EQ(std::ranges::count(layout.skin, control.id, &SkinElement::control), elements.count(control.kind));
-            EXPECT_TRUE(skinned == layout.skin.end() || skinned->element == elements.at(control.kind)) << control.id;
-        }
-    }
 }
 
 }  // namespace

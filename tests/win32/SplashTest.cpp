@@ -105,6 +105,9 @@ TEST_F(SplashTest, GoesWhenTheMainWindowIsThereButNotBeforeItsTime) {
     show(0, false, "None.spl");
     EXPECT_EQ(shownSplash(), nullptr);  // and not the one before
     show(600, false);
+    splash.hide();
+    EXPECT_EQ(shownSplash(), nullptr);  // at once
+    show(600, false);
     const DWORD start = GetTickCount();
     splash.close();
     handleMessages();

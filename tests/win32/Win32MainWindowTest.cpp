@@ -65,12 +65,22 @@ protected:
     HWND pageWindow = nullptr;
 };
 
-TEST_F(Win32MainWindowTest, PagesLieBelowWhatTheirEdgesReachInto) {
+TEST_F(Win32MainWindowTest, PagesLieBelowWhatTheirEdgesReachIntoAndTheMenuEndsWithItsItem) {
     run([&] {
         for (const int id : {IDC_TREE, IDC_APPLY, IDC_DIVIDER}) {
             EXPECT_TRUE(isAbove(control(id), pageWindow)) << id;
         }
         EXPECT_TRUE(isAbove(pageWindow, control(IDC_SPLASH)));
+        window.appendSystemMenuSeparator();
+        window.appendSystemMenu(IDM_ABOUT, "first");
+        window.setSystemMenuText(IDM_ABOUT, "renamed");
+        const HMENU menu = GetSystemMenu(dialog, FALSE);
+        const int last = GetMenuItemCount(menu) - 1;
+        char text[20] = "";
+        GetMenuStringA(menu, static_cast<UINT>(last), text, sizeof text, MF_BYPOSITION);
+        EXPECT_STREQ(text, "renamed");
+        EXPECT_EQ(GetMenuItemID(menu, last), static_cast<UINT>(IDM_ABOUT));
+        EXPECT_TRUE(GetMenuState(menu, static_cast<UINT>(last - 1), MF_BYPOSITION) & MF_SEPARATOR);
         // Without that style a window paints over those above it.
         for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
             const LONG style = GetWindowLongA(child, GWL_STYLE);

@@ -35,7 +35,9 @@ public:
     SplashWindow& splash() override { return splash_; }
     ISkinEngine* skinEngine() override { return &skin_; }
     // What is there already is not made again.
+    void appendSystemMenuSeparator() override { maker().appendSystemMenuSeparator(); }
     void appendSystemMenu(int id, std::string_view text) override { maker().appendSystemMenu(id, text); }
+    void setSystemMenuText(int id, std::string_view text) override { maker().setSystemMenuText(id, text); }
     void setIcons(int resourceId) override { maker().setIcons(resourceId); }
     void createImageList(int size, int count, int growth) override { maker().createImageList(size, count, growth); }
     void addImage(int bitmapResource, Colour mask) override { maker().addImage(bitmapResource, mask); }
@@ -74,8 +76,9 @@ private:
     Win32System system_;
     Win32MainWindow window_;
     MemoryMainWindow ignored_;
-    ScriptedSkinEngine skin_;
-    MemorySplash splash_;
+    CallLog log_;
+    ScriptedSkinEngine skin_{log_};
+    MemorySplash splash_{log_};
     MainWindowHandler* borrower_ = nullptr;
     bool made_ = false;
     std::map<int, Relay> relays_;  // by template
