@@ -7,7 +7,7 @@ namespace korvane {
 namespace {
 
 constexpr int kOkButton = 1;
-constexpr SkinElement kSkin[] = {{0, "Main"},
+constexpr SkinAssignment kSkin[] = {{0, "Main"},
                                  {kOkButton, "Button"},
                                  {IDC_ABOUT_VERSION, "Label"},
                                  {IDC_ABOUT_NOTICE, "Label"},

@@ -34,7 +34,7 @@ CMainDlg::CMainDlg(CKorvaneApp& app, MainWindow& window, Dates dates)
     : app_(app),
       window_(window),
       dates_(app.platform().registry, app.platform().files, app.platform().clock,
-             dates == Dates::InFile ? app.programFolder() + "\\DFile.mrc" : std::string(),
+             {.kept = dates, .path = app.programFolder() + "\\DFile.mrc"},
              [this] { return app_.items().titles(); }),
       moduleById_(kItemCount),
       pages_(makePages(*this)),
@@ -101,7 +101,7 @@ bool CMainDlg::loadSkin() {
         window_.postClose();
         return false;
     }
-    for (const SkinElement& element : {SkinElement{IDC_APPLY, "Button"}, SkinElement{IDC_DIVIDER, "Splitter"}}) {
+    for (const SkinAssignment& element : {SkinAssignment{IDC_APPLY, "Button"}, SkinAssignment{IDC_DIVIDER, "Splitter"}}) {
         if (!applySkinElement(window_.controls(), element)) {
             showSkinFailure();
             window_.controls().endDialog(0);
@@ -111,7 +111,7 @@ bool CMainDlg::loadSkin() {
     return true;
 }
 
-bool CMainDlg::applySkinElement(DialogControls& dialog, const SkinElement& element) {
+bool CMainDlg::applySkinElement(DialogControls& dialog, const SkinAssignment& element) {
     return skin_ != nullptr && !failed(skin_->ApplySkinElement(dialog, element.control, element.element));
 }
 

@@ -17,9 +17,6 @@ namespace korvane {
 
 class CMainDlg : public MainWindowHandler, private PageHost, private DialogHost {
 public:
-    // Where the dates are kept: in the program folder's file, or, for a program that leaves no trace, in memory.
-    enum class Dates { InFile, InMemory };
-
     // Both are borrowed and outlive the dialog.
     CMainDlg(CKorvaneApp& app, MainWindow& window, Dates dates = Dates::InFile);
 
@@ -50,7 +47,7 @@ private:
     ListColumns& listColumns() override { return listColumns_; }
 
     // DialogHost
-    bool applySkinElement(DialogControls& dialog, const SkinElement& element) override;
+    bool applySkinElement(DialogControls& dialog, const SkinAssignment& element) override;
     void showSkinFailure() override;
     std::uint32_t randomSeed() override { return app_.platform().clock.seed(); }
     bool boxEnablesFields() override;

@@ -1,4 +1,4 @@
-// Registry, version and folders of the running Windows.
+// Registry, version, folders and files of the running Windows.
 #include "cli/LiveSystem.h"
 
 #ifdef _WIN32
@@ -17,11 +17,13 @@ public:
     Registry& registry() override { return registry_; }
     VersionSource& version() override { return version_; }
     SystemFolders& folders() override { return folders_; }
+    Files& files() override { return files_; }
 
 private:
     Win32Registry registry_;
     Win32Version version_;
     Win32Folders folders_;
+    Win32Files files_;
 };
 
 }  // namespace

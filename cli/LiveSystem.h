@@ -14,6 +14,7 @@ public:
     virtual Registry& registry() = 0;
     virtual VersionSource& version() = 0;
     virtual SystemFolders& folders() = 0;
+    virtual Files& files() = 0;
 };
 
 // Null where the running system has no registry.

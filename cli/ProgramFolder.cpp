@@ -1,5 +1,7 @@
-// Looking names up, and the date file's copy in memory.
+// Looking names up, and copies of files in memory.
 #include "cli/ProgramFolder.h"
+
+#include "platform/stdio/StdioFiles.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -73,6 +75,13 @@ std::string ProgramFolder::hostPath(const std::string& path) const {
 
 #endif
 
+namespace {
+
+// What is longer is no file of the program's.
+constexpr std::size_t kLongestFile = 64 << 20;
+
+}  // namespace
+
 std::string FolderProfile::getString(std::string_view section, std::string_view key, std::string_view defaultValue,
                                      std::size_t size, const std::string& file) {
     if (!folder_.given()) {
@@ -85,40 +94,12 @@ std::string FolderProfile::getString(std::string_view section, std::string_view 
     return ini_.getString(section, key, defaultValue, size, found->second);
 }
 
-std::unique_ptr<File> PendingFiles::openExisting(const std::string& path) {
-    if (pending_.find(path) == nullptr) {
-        const std::unique_ptr<File> file = disk_.openExisting(folder_.hostPath(path));
-        std::string text;
-        if (file == nullptr || !file->readAll(text)) {
-            return nullptr;
-        }
-        pending_.put(path, {.text = text});
-        onDisk_[path] = std::move(text);
+std::unique_ptr<File> CopiedFiles::openExisting(const std::string& path) {
+    std::string text;
+    if (copies_.find(path) == nullptr && readWholeFile(folder_.hostPath(path), kLongestFile, text)) {
+        copies_.put(path, {.text = std::move(text)});
     }
-    return pending_.openExisting(path);
-}
-
-std::unique_ptr<File> PendingFiles::createAlways(const std::string& path) {
-    onDisk_.try_emplace(path);
-    return pending_.createAlways(path);
-}
-
-bool PendingFiles::writeChanges() {
-    bool allWritten = true;
-    for (auto& [path, content] : onDisk_) {
-        const std::string& text = pending_.find(path)->text;
-        if (content == text) {
-            continue;
-        }
-        const std::string hostPath = folder_.hostPath(path);
-        const std::unique_ptr<File> file = content ? disk_.openExisting(hostPath) : disk_.createAlways(hostPath);
-        if (file != nullptr && file->rewrite(text)) {
-            content = text;
-        } else {
-            allWritten = false;
-        }
-    }
-    return allWritten;
+    return copies_.openExisting(path);
 }
 
 }  // namespace korvane

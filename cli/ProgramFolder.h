@@ -1,16 +1,14 @@
-// The files of the program's folder: its language files, and the date file,
-// whose changes wait until the whole run has succeeded.
+// The files of the program's folder: its language files, and the date file as a
+// run over a .reg file uses it.
 #pragma once
 
 #include "platform/System.h"
 #include "platform/stdio/IniFile.h"
 #include "platform/memory/MemorySystem.h"
-#include "platform/stdio/StdioFiles.h"
 
 #include <cstddef>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,23 +46,17 @@ private:
     IniFile ini_;
 };
 
-// Reads the files of the folder and keeps what is written to them until it is told to write it.
-class PendingFiles final : public Files {
+// Reads the files of the folder and keeps what is written to them to itself.
+class CopiedFiles final : public Files {
 public:
-    explicit PendingFiles(const ProgramFolder& folder) : folder_(folder) {}
+    explicit CopiedFiles(const ProgramFolder& folder) : folder_(folder) {}
 
     std::unique_ptr<File> openExisting(const std::string& path) override;
-    std::unique_ptr<File> createAlways(const std::string& path) override;
-
-    // False when a file could not be written; the others are written all the same.
-    bool writeChanges();
+    std::unique_ptr<File> createAlways(const std::string& path) override { return copies_.createAlways(path); }
 
 private:
     const ProgramFolder& folder_;
-    StdioFiles disk_;
-    MemoryFiles pending_;
-    // What each file in use holds on the disk; nothing for one that is made anew.
-    std::map<std::string, std::optional<std::string>> onDisk_;
+    MemoryFiles copies_;
 };
 
 }  // namespace korvane

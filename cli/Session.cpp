@@ -1,6 +1,7 @@
 // Putting the pieces of a run together.
 #include "cli/Session.h"
 
+#include "cli/LockedFiles.h"
 #include "cli/RegFileStore.h"
 #include "pages/PageLayout.h"
 #include "regfile/RegFile.h"
@@ -63,7 +64,7 @@ std::optional<Problem> Session::startWindow() {
                                .folders = live_ != nullptr ? live_->folders() : folders_,
                                .profile = profile_,
                                .pickers = pickers_,
-                               .files = files_,
+                               .files = live_ != nullptr ? live_->files() : files_,
                                .help = help_});
     app_.emplace(*platform_, programFolder_.executable());
     if (options_.language) {
@@ -73,11 +74,19 @@ std::optional<Problem> Session::startWindow() {
         }
         app_->forceLanguage(*name);
     }
-    dialog_.emplace(*app_, window_, programFolder_.given() ? CMainDlg::Dates::InFile : CMainDlg::Dates::InMemory);
+    dialog_.emplace(*app_, window_, datesKept());
     if (!window_.run(*dialog_)) {
         return failure("the program ended while it was starting");
     }
     return std::nullopt;
+}
+
+// The flag of a running system says whether its own date file was created. A .reg file may come from anywhere.
+Dates Session::datesKept() const {
+    if (!programFolder_.given()) {
+        return Dates::InMemory;
+    }
+    return worksOnFile() ? Dates::InFileAlone : Dates::InFile;
 }
 
 void Session::select(int item) {
@@ -108,6 +117,18 @@ PageView Session::view() {
             .page = shown,
             .controls = shown == Page::None ? nullptr : window_.page(layoutOf(shown).templateId),
             .applyVisible = window_.dialog().find(IDC_APPLY)->visible};
+}
+
+// A run over a .reg file has dated its own copy only: the stamp is repeated in the file as it is by now, which keeps the
+// stamps of others.
+bool Session::saveDates() {
+    if (datesKept() != Dates::InFileAlone || stampCount() == 0) {
+        return dialog_->dates().lastFailure().empty();
+    }
+    LockedFiles files(programFolder_);
+    DateStore dates(fileRegistry_, files, clock_, dialog_->dates().place(), [this] { return items().titles(); });
+    dates.Initialise();
+    return dates.Stamp(items().title(item_));
 }
 
 std::optional<Problem> Session::saveRegistry(bool& written) {

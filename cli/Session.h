@@ -61,12 +61,14 @@ public:
     bool worksOnFile() const { return live_ == nullptr; }
     // Writes the .reg file back if the registry is another than before the start, and says so.
     std::optional<Problem> saveRegistry(bool& written);
-    // False when the dates could not be written to the program folder.
-    bool saveDates() { return files_.writeChanges(); }
+    // Writes the date of the selected item, if it was stamped. False when dates could not be read from or written to the
+    // program folder.
+    bool saveDates();
 
 private:
     std::optional<Problem> openRegistry();
     std::optional<Problem> startWindow();
+    Dates datesKept() const;
     Page shownPage();
 
     const CommandLine& options_;
@@ -83,7 +85,7 @@ private:
     ScriptedHelpLibrary help_;
     ProgramFolder programFolder_;
     FolderProfile profile_{programFolder_};
-    PendingFiles files_{programFolder_};
+    CopiedFiles files_{programFolder_};
 
     std::optional<Platform> platform_;
     std::optional<CKorvaneApp> app_;

@@ -128,8 +128,7 @@ std::vector<Keyword> allKeywords(std::span<const HelpFile> guide) {
         const std::string second = lowerCase(b.text);
         return first != second ? first < second : a < b;
     });
-    const auto repeated = std::ranges::unique(keywords);
-    keywords.erase(repeated.begin(), repeated.end());
+    keywords.erase(std::unique(keywords.begin(), keywords.end()), keywords.end());
     return keywords;
 }
 

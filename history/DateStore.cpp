@@ -13,12 +13,44 @@ constexpr std::string_view kCreatedFlag = "DateModefiedFlage";  // spelled so in
 constexpr std::string_view kLanguage = "Language";
 constexpr std::string_view kDefaultLanguage{"English\0", 8};    // written with its terminating zero
 
-std::string keyOf(std::string_view title) { return "korvane(\"" + std::string(title) + "\""; }
+constexpr std::string_view kRecordStart = "korvane(\"";
+constexpr std::string_view kLineEnd = "\r\n";
+
+// The text with every kind of line end as CR LF, and each record on a line of its own. Records end where their line
+// ends: by the platform's line ends alone, a stamp would take all that follows in a file from an editor that ends lines
+// otherwise.
+std::string inLines(std::string_view text) {
+    std::string lines;
+    lines.reserve(text.size());
+    bool hasRecord = false;  // the line so far
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            i += text.substr(i).starts_with(kLineEnd) ? 1 : 0;
+            lines += kLineEnd;
+            hasRecord = false;
+            continue;
+        }
+        if (text[i] == kRecordStart.front() && text.substr(i).starts_with(kRecordStart)) {
+            lines += hasRecord ? kLineEnd : "";
+            hasRecord = true;
+        }
+        lines += text[i];
+    }
+    return lines;
+}
+
+// As it stands in a file whose line ends were put right: a translated title may have some.
+std::string keyOf(std::string_view title) { return inLines(std::string(kRecordStart) + std::string(title) + '"'); }
+
+// From the key to the end of its line.
+std::string recordAt(const std::string& text, std::size_t start, const std::string& key) {
+    return text.substr(start, text.find('\r', start + key.size()) - start);
+}
 
 }  // namespace
 
-DateStore::DateStore(Registry& registry, Files& files, Clock& clock, std::string path, Titles titles)
-    : registry_(registry), files_(files), clock_(clock), path_(std::move(path)), titles_(std::move(titles)) {}
+DateStore::DateStore(Registry& registry, Files& files, Clock& clock, DatePlace place, Titles titles)
+    : registry_(registry), files_(files), clock_(clock), place_(std::move(place)), titles_(std::move(titles)) {}
 
 bool DateStore::openSettings(RegistryHandle& root, RegistryHandle& settings) {
     RegistryHandle software;
@@ -33,35 +65,49 @@ bool DateStore::createdBefore(const RegistryHandle& settings) {
 }
 
 void DateStore::Initialise() {
-    if (inMemory()) {
+    modified_ = false;
+    if (place_.kept == Dates::InMemory) {
         text_ = allRecords();
-        return;
+    } else if (place_.kept == Dates::InFileAlone) {
+        if (!Update()) {
+            createFile();
+        }
+    } else {
+        RegistryHandle root;
+        RegistryHandle settings;
+        if (openSettings(root, settings)) {
+            loadOrCreateFile(settings);
+        }
     }
-    RegistryHandle root;
-    RegistryHandle settings;
-    if (!openSettings(root, settings)) {
-        return;
-    }
+}
+
+void DateStore::loadOrCreateFile(const RegistryHandle& settings) {
     if (!readValue(registry_, settings, kLanguage)) {
         const auto data = std::as_bytes(std::span(kDefaultLanguage));
         ignoreFailure(registry_.setValue(settings, kLanguage, ValueType::Sz, data));
     }
     if (createdBefore(settings)) {
-        modified_ = false;
         Update();
-    } else {
-        createFile(settings);
+    } else if (createFile()) {
+        constexpr std::byte kSet[4] = {std::byte{1}};
+        ignoreFailure(registry_.setValue(settings, kCreatedFlag, ValueType::Dword, kSet));
     }
 }
 
-void DateStore::createFile(const RegistryHandle& settings) {
-    text_ = allRecords();
-    const auto file = files_.createAlways(path_);
-    if (file == nullptr || !file->rewrite(text_)) {
+bool DateStore::createFile() {
+    std::string text = allRecords();
+    const auto file = files_.createAlways(place_.path);
+    if (file == nullptr || !file->rewrite(text)) {
         noteFailure("it could not be created");
+        return false;
     }
-    constexpr std::byte kSet[4] = {std::byte{1}};
-    ignoreFailure(registry_.setValue(settings, kCreatedFlag, ValueType::Dword, kSet));
+    keep(std::move(text));
+    return true;
+}
+
+void DateStore::keep(std::string text) {
+    text_ = std::move(text);
+    lastFailure_.clear();
 }
 
 std::string DateStore::record(std::string_view title) {
@@ -73,13 +119,17 @@ std::string DateStore::record(std::string_view title) {
 std::string DateStore::allRecords() {
     std::string all;
     for (const std::string& title : titles_()) {
-        all += record(title) + "\r\n";
+        all.append(record(title)).append(kLineEnd);
     }
     return all;
 }
 
 void DateStore::Reset() {
-    if (!inMemory()) {
+    if (place_.kept == Dates::InFileAlone) {
+        createFile();
+        return;
+    }
+    if (place_.kept == Dates::InFile) {
         RegistryHandle root;
         RegistryHandle settings;
         if (openSettings(root, settings)) {
@@ -93,7 +143,7 @@ void DateStore::Reset() {
 bool DateStore::Stamp(std::string_view title) {
     modified_ = true;
     pendingTitle_ = title;
-    if (inMemory()) {
+    if (place_.kept == Dates::InMemory) {
         modified_ = !replaceRecord(text_, title);
         return !modified_;
     }
@@ -101,8 +151,9 @@ bool DateStore::Stamp(std::string_view title) {
 }
 
 bool DateStore::Update() {
-    const auto file = files_.openExisting(path_);
+    auto file = files_.openExisting(place_.path);
     if (file == nullptr) {
+        noteFailure("it could not be opened");
         return false;
     }
     std::string text;
@@ -110,31 +161,32 @@ bool DateStore::Update() {
         noteFailure("it could not be read");
         return false;
     }
+    text = inLines(text);
     if (!modified_) {
-        text_ = std::move(text);
+        keep(std::move(text));
         return true;
     }
     if (!replaceRecord(text, pendingTitle_)) {
-        Reset();  // every record then has today's date
-        return true;
+        file.reset();  // nobody can make a file anew that is open for reading
+        Reset();
+        return text_.find(record(pendingTitle_)) != std::string::npos;
     }
     if (!file->rewrite(text)) {
         noteFailure("it could not be written");
         return false;
     }
     modified_ = false;
-    text_ = std::move(text);
+    keep(std::move(text));
     return true;
 }
 
 bool DateStore::replaceRecord(std::string& text, std::string_view title) {
-    const std::size_t start = text.find(keyOf(title));
+    const std::string key = keyOf(title);
+    const std::size_t start = text.find(key);
     if (start == std::string::npos) {
         return false;
     }
-    const std::size_t end = text.find('\r', start);
-    const std::string old = text.substr(start, end == std::string::npos ? end : end - start);
-    replaceAll(text, old, record(title));
+    replaceAll(text, recordAt(text, start, key), record(title));
     return true;
 }
 
@@ -148,7 +200,7 @@ std::string DateStore::LookUp(std::string_view title) {
     if (start == std::string::npos) {
         return {};
     }
-    std::string found = text_.substr(start, text_.find('\r', start) - start);
+    std::string found = recordAt(text_, start, key);
     found.pop_back();  // the closing bracket
     const std::size_t comma = found.find(',');
     return comma == std::string::npos ? std::string() : found.substr(comma + 1);

@@ -13,8 +13,8 @@ bool CDialog::OnInitDialog(DialogControls& controls) {
     return alive;
 }
 
-bool CDialog::applySkin(std::span<const SkinElement> elements) {
-    for (const SkinElement& element : elements) {
+bool CDialog::applySkin(std::span<const SkinAssignment> elements) {
+    for (const SkinAssignment& element : elements) {
         if (!host_.applySkinElement(controls(), element)) {
             host_.showSkinFailure();
             controls().endDialog(0);

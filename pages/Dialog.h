@@ -16,7 +16,7 @@ public:
     virtual ~DialogHost() = default;
 
     // False if the skin engine refuses the element.
-    virtual bool applySkinElement(DialogControls& dialog, const SkinElement& element) = 0;
+    virtual bool applySkinElement(DialogControls& dialog, const SkinAssignment& element) = 0;
     virtual void showSkinFailure() = 0;
     virtual std::uint32_t randomSeed() = 0;
     // True if the first check box of the current item enables and disables its fields.
@@ -44,7 +44,7 @@ protected:
     virtual void DoDataExchange() {}
     virtual bool OnInitDialog() = 0;
     // Applies the elements in turn; at the first refusal shows the message, ends the dialog and returns false.
-    bool applySkin(std::span<const SkinElement> elements);
+    bool applySkin(std::span<const SkinAssignment> elements);
     DialogHost& host() { return host_; }
 
 private:

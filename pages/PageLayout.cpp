@@ -9,7 +9,7 @@ namespace {
 constexpr int kCategoryMembers[] = {IDC_HEADER, IDC_LIST, IDC_CHECK1};
 constexpr int kCategoryBoxes[] = {IDC_CHECK1};
 constexpr int kCategoryHidden[] = {IDC_LIST, IDC_CHECK1};
-constexpr SkinElement kCategorySkin[] = {{0, "SubMain"}, {IDC_CHECK1, "CheckBox"}, {IDC_HEADER, "Label"}};
+constexpr SkinAssignment kCategorySkin[] = {{0, "SubMain"}, {IDC_CHECK1, "CheckBox"}, {IDC_HEADER, "Label"}};
 
 constexpr int kChecksMembers[] = {IDC_NOTE,   IDC_CHECK9, IDC_CHECK8,  IDC_CHECK7, IDC_CHECK6, IDC_CHECK5,
                                   IDC_CHECK4, IDC_CHECK3, IDC_CHECK2, IDC_CHECK10, IDC_CHECK1, IDC_HEADER};
@@ -17,7 +17,7 @@ constexpr int kChecksBoxes[] = {IDC_CHECK1, IDC_CHECK2, IDC_CHECK3, IDC_CHECK4, 
                                 IDC_CHECK6, IDC_CHECK7, IDC_CHECK8, IDC_CHECK9, IDC_CHECK10};
 constexpr int kChecksHidden[] = {IDC_NOTE,   IDC_CHECK1, IDC_CHECK2, IDC_CHECK3, IDC_CHECK4, IDC_CHECK5,
                                  IDC_CHECK6, IDC_CHECK7, IDC_CHECK8, IDC_CHECK9, IDC_CHECK10};
-constexpr SkinElement kChecksSkin[] = {
+constexpr SkinAssignment kChecksSkin[] = {
     {0, "SubMain"},           {IDC_CHECK1, "CheckBox"}, {IDC_CHECK2, "CheckBox"}, {IDC_CHECK3, "CheckBox"},
     {IDC_CHECK4, "CheckBox"}, {IDC_CHECK5, "CheckBox"}, {IDC_CHECK6, "CheckBox"}, {IDC_CHECK7, "CheckBox"},
     {IDC_CHECK8, "CheckBox"}, {IDC_CHECK9, "CheckBox"}, {IDC_CHECK10, "CheckBox"}, {IDC_HEADER, "Label"},
@@ -32,7 +32,7 @@ constexpr RowControls kCheckFieldsRows[] = {{.label = IDC_LABEL1, .edit = IDC_ED
                                             {.label = IDC_LABEL3, .edit = IDC_EDIT3, .browse = IDC_BROWSE3}};
 constexpr int kCheckFieldsHidden[] = {IDC_LABEL1, IDC_LABEL2,  IDC_LABEL3,  IDC_EDIT1,  IDC_EDIT2,  IDC_EDIT3,
                                       IDC_BROWSE1, IDC_BROWSE2, IDC_BROWSE3, IDC_CHECK1, IDC_CHECK2, IDC_NOTE};
-constexpr SkinElement kCheckFieldsSkin[] = {
+constexpr SkinAssignment kCheckFieldsSkin[] = {
     {0, "SubMain"},         {IDC_CHECK1, "CheckBox"}, {IDC_CHECK2, "CheckBox"}, {IDC_HEADER, "Label"},
     {IDC_NOTE, "Label"},    {IDC_LABEL1, "Label"},    {IDC_LABEL2, "Label"},    {IDC_LABEL3, "Label"},
     {IDC_BROWSE1, "Button"}, {IDC_BROWSE2, "Button"},  {IDC_BROWSE3, "Button"}};
@@ -44,12 +44,12 @@ constexpr RowControls kCheckCombosRows[] = {{.label = IDC_LABEL1, .combo = IDC_C
                                             {.label = IDC_LABEL2, .combo = IDC_COMBO2}};
 constexpr int kCheckCombosHidden[] = {IDC_LABEL1, IDC_LABEL2, IDC_COMBO1, IDC_COMBO2,
                                       IDC_COLOUR_COMBO, IDC_CHECK1, IDC_NOTE};
-constexpr SkinElement kCheckCombosSkin[] = {{0, "SubMain"},      {IDC_CHECK1, "CheckBox"}, {IDC_HEADER, "Label"},
+constexpr SkinAssignment kCheckCombosSkin[] = {{0, "SubMain"},      {IDC_CHECK1, "CheckBox"}, {IDC_HEADER, "Label"},
                                             {IDC_NOTE, "Label"}, {IDC_LABEL1, "Label"},    {IDC_LABEL2, "Label"}};
 
 constexpr int kCheckListMembers[] = {IDC_HEADER, IDC_CHECK_LIST};
 constexpr int kCheckListHidden[] = {IDC_CHECK_LIST};
-constexpr SkinElement kCheckListSkin[] = {{0, "SubMain"}, {IDC_HEADER, "Label"}};
+constexpr SkinAssignment kCheckListSkin[] = {{0, "SubMain"}, {IDC_HEADER, "Label"}};
 
 constexpr int kPathFieldsMembers[] = {IDC_LABEL5,  IDC_LABEL4,  IDC_LABEL3,  IDC_LABEL2,  IDC_LABEL1, IDC_EDIT5,
                                       IDC_EDIT4,   IDC_EDIT3,   IDC_EDIT2,   IDC_EDIT1,   IDC_BROWSE5, IDC_BROWSE4,
@@ -59,7 +59,7 @@ constexpr RowControls kPathFieldsRows[] = {{.label = IDC_LABEL1, .edit = IDC_EDI
                                            {.label = IDC_LABEL3, .edit = IDC_EDIT3, .browse = IDC_BROWSE3},
                                            {.label = IDC_LABEL4, .edit = IDC_EDIT4, .browse = IDC_BROWSE4},
                                            {.label = IDC_LABEL5, .edit = IDC_EDIT5, .browse = IDC_BROWSE5}};
-constexpr SkinElement kPathFieldsSkin[] = {
+constexpr SkinAssignment kPathFieldsSkin[] = {
     {0, "SubMain"},          {IDC_LABEL1, "Label"},   {IDC_LABEL2, "Label"},   {IDC_LABEL3, "Label"},
     {IDC_LABEL4, "Label"},   {IDC_LABEL5, "Label"},   {IDC_HEADER, "Label"},   {IDC_BROWSE1, "Button"},
     {IDC_BROWSE2, "Button"}, {IDC_BROWSE3, "Button"}, {IDC_BROWSE4, "Button"}, {IDC_BROWSE5, "Button"}};
@@ -72,7 +72,7 @@ constexpr RowControls kCombosRows[] = {{.label = IDC_LABEL1, .combo = IDC_COMBO1
                                        {.label = IDC_LABEL4, .combo = IDC_COMBO4},
                                        {.label = IDC_LABEL5, .combo = IDC_COMBO5},
                                        {.label = IDC_LABEL6, .combo = IDC_COMBO6}};
-constexpr SkinElement kCombosSkin[] = {{0, "SubMain"},        {IDC_LABEL1, "Label"}, {IDC_LABEL2, "Label"},
+constexpr SkinAssignment kCombosSkin[] = {{0, "SubMain"},        {IDC_LABEL1, "Label"}, {IDC_LABEL2, "Label"},
                                        {IDC_LABEL3, "Label"}, {IDC_LABEL4, "Label"}, {IDC_LABEL5, "Label"},
                                        {IDC_LABEL6, "Label"}, {IDC_HEADER, "Label"}};
 
@@ -83,14 +83,14 @@ constexpr RowControls kEditCombosRows[] = {{.label = IDC_LABEL1, .edit = IDC_EDI
                                            {.label = IDC_LABEL3, .combo = IDC_COMBO2},
                                            {.label = IDC_LABEL4, .combo = IDC_COMBO3}};
 constexpr int kEditCombosHidden[] = {IDC_EDIT1, IDC_COMBO4};
-constexpr SkinElement kEditCombosSkin[] = {{0, "SubMain"},        {IDC_LABEL1, "Label"}, {IDC_LABEL2, "Label"},
+constexpr SkinAssignment kEditCombosSkin[] = {{0, "SubMain"},        {IDC_LABEL1, "Label"}, {IDC_LABEL2, "Label"},
                                            {IDC_LABEL3, "Label"}, {IDC_LABEL4, "Label"}, {IDC_HEADER, "Label"},
                                            {IDC_NOTE, "Label"}};
 
 constexpr int kCheckComboMembers[] = {IDC_LABEL1, IDC_COMBO1, IDC_CHECK1, IDC_NOTE, IDC_HEADER};
 constexpr int kCheckComboBoxes[] = {IDC_CHECK1};
 constexpr RowControls kCheckComboRows[] = {{.label = IDC_LABEL1, .combo = IDC_COMBO1}};
-constexpr SkinElement kCheckComboSkin[] = {{0, "SubMain"},
+constexpr SkinAssignment kCheckComboSkin[] = {{0, "SubMain"},
                                            {IDC_CHECK1, "CheckBox"},
                                            {IDC_HEADER, "Label"},
                                            {IDC_NOTE, "Label"},

@@ -14,7 +14,7 @@ struct RowControls {
     int combo = 0;
 };
 
-struct SkinElement {
+struct SkinAssignment {
     int control;  // 0: the page itself
     std::string_view element;
 };
@@ -29,7 +29,7 @@ struct PageLayout {
     // What HideControls hides.
     std::span<const int> hidden = {};
     // The skin elements in the order in which they are applied.
-    std::span<const SkinElement> skin = {};
+    std::span<const SkinAssignment> skin = {};
 };
 
 // For every page except Page::None.

@@ -20,6 +20,13 @@ native_packages=(
     /usr/bin/python3:python3
     /usr/src/googletest/googletest/CMakeLists.txt:googletest
 )
+# libFuzzer comes with the sanitizers, in a package of their own; the standard library is GCC's. GoogleTest's sources are
+# not needed: its tests are not built.
+fuzz_packages=(
+    /usr/bin/clang++:clang
+    /usr/bin/g++:g++
+    /usr/lib/clang/14/lib/linux/libclang_rt.fuzzer-x86_64.a:libclang-rt-14-dev
+)
 # The native compiler builds the generator of the help.
 help_packages=(
     /usr/bin/g++:g++

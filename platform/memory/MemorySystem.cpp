@@ -18,32 +18,6 @@ constexpr NamedVersion kVersions[] = {
     {"2000", {2, 5, 0}}, {"xp", {2, 5, 1}},  {"2003", {2, 5, 2}}, {"vista", {2, 6, 0}},
 };
 
-// An open file. A newly created one is open for writing only.
-class OpenMemoryFile final : public File {
-public:
-    OpenMemoryFile(const MemoryFiles& files, std::shared_ptr<MemoryFile> file, bool readable)
-        : files_(files), file_(std::move(file)), readable_(readable) {}
-
-    bool readAll(std::string& text) override {
-        if (readable_) {
-            text = file_->text;
-        }
-        return readable_;
-    }
-
-    bool rewrite(std::string_view text) override {
-        if (!files_.diskFull) {
-            file_->text = text;
-        }
-        return !files_.diskFull;
-    }
-
-private:
-    const MemoryFiles& files_;
-    std::shared_ptr<MemoryFile> file_;
-    bool readable_;
-};
-
 }  // namespace
 
 std::optional<VersionRecord> versionNamed(std::string_view name) {
@@ -109,38 +83,80 @@ std::uintptr_t ScriptedHelpLibrary::call(std::uintptr_t caller, const std::strin
     return result;
 }
 
+struct MemoryFiles::Entry {
+    MemoryFile file;
+    int readers = 0;             // open for reading
+    int unsharedForReading = 0;  // open without letting others read
+};
+
+// One newly made is open for writing only, and others may not read it meanwhile.
+class MemoryFiles::OpenFile final : public File {
+public:
+    OpenFile(const MemoryFiles& files, std::shared_ptr<Entry> entry, bool readable)
+        : files_(files), entry_(std::move(entry)), readable_(readable) {
+        ++counter();
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() override { --counter(); }
+
+    bool readAll(std::string& text) override {
+        if (readable_) {
+            text = entry_->file.text;
+        }
+        return readable_;
+    }
+
+    bool rewrite(std::string_view text) override {
+        if (!files_.diskFull) {
+            entry_->file.text = text;
+        }
+        return !files_.diskFull;
+    }
+
+private:
+    int& counter() { return readable_ ? entry_->readers : entry_->unsharedForReading; }
+
+    const MemoryFiles& files_;
+    std::shared_ptr<Entry> entry_;
+    bool readable_;
+};
+
 void MemoryFiles::put(const std::string& path, MemoryFile file) {
-    files_[path] = std::make_shared<MemoryFile>(std::move(file));
+    files_[path] = std::make_shared<Entry>(Entry{.file = std::move(file)});
 }
 
 const MemoryFile* MemoryFiles::find(const std::string& path) const {
     const auto found = files_.find(path);
-    return found == files_.end() ? nullptr : found->second.get();
+    return found == files_.end() ? nullptr : &found->second->file;
 }
 
 std::unique_ptr<File> MemoryFiles::openExisting(const std::string& path) {
     const auto found = files_.find(path);
-    if (found == files_.end() || found->second->readOnly) {
+    if (found == files_.end() || found->second->file.readOnly || found->second->unsharedForReading > 0) {
         return nullptr;
     }
-    return std::make_unique<OpenMemoryFile>(*this, found->second, true);
+    return std::make_unique<OpenFile>(*this, found->second, true);
 }
 
 // An existing file is emptied at once, even if nothing is written afterwards.
 std::unique_ptr<File> MemoryFiles::createAlways(const std::string& path) {
-    const MemoryFile* existing = find(path);
-    if (existing != nullptr ? existing->readOnly : refusesCreation) {
+    const auto existing = files_.find(path);
+    if (existing == files_.end()) {
+        if (refusesCreation) {
+            return nullptr;
+        }
+        put(path, {});
+    } else if (existing->second->file.readOnly || existing->second->readers > 0) {
         return nullptr;
     }
-    if (existing == nullptr) {
-        put(path, {});
-    }
-    files_[path]->text.clear();
-    return std::make_unique<OpenMemoryFile>(*this, files_[path], false);
+    Entry& entry = *files_[path];
+    entry.file.text.clear();
+    return std::make_unique<OpenFile>(*this, files_[path], false);
 }
 
 Platform MemorySystem::platform(Registry& registry) {
-    return {registry, messages, version, *clock, folders, profile, pickers, *files, help};
+    return {registry, messages, version, *clock, folders, profile, pickers, memoryFiles, help};
 }
 
 }  // namespace korvane

@@ -6,7 +6,6 @@
 #include "platform/MessageBoxes.h"
 #include "platform/System.h"
 #include "platform/stdio/IniFile.h"
-#include "platform/stdio/StdioFiles.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -110,7 +109,7 @@ struct MemoryFile {
     bool readOnly = false;
 };
 
-// Files by their exact path. An open file stays valid even if it is put again.
+// Files by their exact path, with the sharing rules of Windows. An open file stays valid even if it is put again.
 class MemoryFiles final : public Files {
 public:
     bool refusesCreation = false;
@@ -124,10 +123,13 @@ public:
     std::unique_ptr<File> createAlways(const std::string& path) override;
 
 private:
-    std::map<std::string, std::shared_ptr<MemoryFile>> files_;
+    struct Entry;
+    class OpenFile;
+
+    std::map<std::string, std::shared_ptr<Entry>> files_;
 };
 
-// All parts together. Choose `clock` and `files` before taking the platform.
+// All parts together. Choose `clock` before taking the platform.
 struct MemorySystem {
     MemorySystem() = default;
     MemorySystem(const MemorySystem&) = delete;
@@ -141,11 +143,9 @@ struct MemorySystem {
     IniFile profile;
     ScriptedPickers pickers;
     MemoryFiles memoryFiles;
-    StdioFiles realFiles;
     ScriptedHelpLibrary help;
 
     Clock* clock = &fixedClock;
-    Files* files = &memoryFiles;
 
     // Borrows this system and the registry.
     Platform platform(Registry& registry);

@@ -1,13 +1,11 @@
 // With a program folder: its dates are read and written, its languages used, and the user's settings as well.
+#include "cli/LockedFiles.h"
 #include "tests/cli/KmctlTest.h"
 
 namespace korvane {
 namespace {
 
-constexpr std::string_view kSettings =
-    "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\r\n"
-    "\"Language\"=\"English\"\r\n"
-    "\"DateModefiedFlage\"=dword:00000001\r\n";
+constexpr std::string_view kGermanSettings = "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\r\n\"Language\"=\"Deutsch\"\r\n";
 
 class ProgramFolderTest : public KmctlTest {
 protected:
@@ -33,13 +31,14 @@ protected:
     const std::string dateFile_ = program_ + "/DFile.mrc";
 };
 
-TEST_F(ProgramFolderTest, ShowWritesNothingAndTheFirstApplyMakesDateFileAndSettings) {
+TEST_F(ProgramFolderTest, ShowWritesNothingAndTheFirstApplyMakesTheDateFileAlone) {
     EXPECT_EQ(inFolder({"show", "1"}).status, 0);
     EXPECT_EQ(contents(), kTestRegistry);
     EXPECT_TRUE(filesIn(program_).empty());
     EXPECT_EQ(inFolder({"apply", "11", "1013=1"}).out,
               "Quick Edit the Command Prompt (11): applied, and dated today\n" + registry_ + ": written\n");
-    EXPECT_TRUE(has(contents(), kSettings)) << contents();
+    EXPECT_EQ(contents(), withChange(kTestRegistry, "\"QuickEdit\"=dword:00000000", "\"QuickEdit\"=dword:00000001"));
+    EXPECT_EQ(filesIn(program_), std::vector<std::string>{"DFile.mrc"});
     EXPECT_TRUE(has(readFile(dateFile_), "korvane(\"Quick Edit the Command Prompt\","));
 }
 
@@ -59,14 +58,43 @@ TEST_F(ProgramFolderTest, EarlierDatesAreShownAndOnlyTheAppliedOneIsReplaced) {
     EXPECT_TRUE(has(inFolder({"show", "1"}).out, "1/2/2003\n")) << "the others keep theirs";
 }
 
-// The date file is as old as the registry says: where the user's settings are missing, all dates are made anew, but a
-// look at them alone may not destroy what is there.
-TEST_F(ProgramFolderTest, ShowLeavesTheDatesOfAnotherUsersFile) {
+// Whatever flag the registry of another machine holds, the dates are those of this folder.
+TEST_F(ProgramFolderTest, EveryRegistryFileLeavesTheDatesOfTheOtherItems) {
     installWithDates();
     const std::string dates = readFile(dateFile_);
-    writeFile(registry_, kTestRegistry);
-    EXPECT_FALSE(has(inFolder({"show", "1"}).out, "1/2/2003"));
-    EXPECT_EQ(readFile(dateFile_), dates);
+    const std::string settings = "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\r\n\"DateModefiedFlage\"=dword:";
+    for (const std::string& flag : {std::string(), settings + "00000000\r\n", settings + "00000001\r\n"}) {
+        SCOPED_TRACE(flag);
+        writeFile(dateFile_, dates);
+        writeFile(registry_, std::string(kTestRegistry) + flag);
+        EXPECT_TRUE(has(inFolder({"show", "1"}).out, "1/2/2003"));
+        EXPECT_EQ(readFile(dateFile_), dates);
+        EXPECT_EQ(inFolder({"apply", "11", "1013=1"}).status, 0);
+        const std::string after = readFile(dateFile_);
+        EXPECT_EQ(std::ranges::count(after, '\n'), 311);
+        EXPECT_EQ(after.find("1/2/2003"), dates.find("1/2/2003"));
+        EXPECT_FALSE(has(contents(), "\"Language\""));
+        EXPECT_EQ(has(contents(), "DateModefiedFlage"), !flag.empty());
+    }
+}
+
+// A stamp is put into the file as it is by then. What another kmctl has written meanwhile stays.
+TEST_F(ProgramFolderTest, TwoAtOnceKeepEachOthersDatesAndAFileIsNeverSeenHalfWritten) {
+    installWithDates();
+    const ProgramFolder folder(program_);
+    const std::string path = program_ + "\\DFile.mrc";
+    LockedFiles files(folder);
+    std::string text;
+    std::unique_ptr<File> first = files.openExisting(path);
+    ASSERT_TRUE(first != nullptr && first->readAll(text));
+    EXPECT_EQ(text, readFile(dateFile_));
+    EXPECT_TRUE(first->rewrite("shorter"));
+    EXPECT_EQ(readFile(dateFile_), "shorter");
+    EXPECT_EQ(filesIn(program_), std::vector<std::string>{"DFile.mrc"});
+    // What was never opened may not be made anew, for it may be another's, made just now.
+    EXPECT_EQ(LockedFiles(folder).createAlways(path), nullptr);
+    EXPECT_NE(files.createAlways(path), nullptr);
+    EXPECT_EQ(readFile(dateFile_), "shorter");
 }
 
 TEST_F(ProgramFolderTest, DatesThatCannotBeWrittenAreNotClaimed) {
@@ -106,7 +134,7 @@ TEST_F(ProgramFolderTest, LanguageFilesTranslateTitlesAndAlerts) {
 TEST_F(ProgramFolderTest, TheUsersLanguageIsUsedOnlyWithAFolderThatIsThere) {
     makeFolder(program_ + "/Language");
     writeFile(program_ + "/Language/Deutsch.ini", "[1004]\r\n112=Schnell\r\n");
-    writeFile(registry_, std::string(kTestRegistry) + withChange(kSettings, "=\"English\"", "=\"Deutsch\""));
+    writeFile(registry_, std::string(kTestRegistry) + std::string(kGermanSettings));
     EXPECT_TRUE(inFolder({"show", "11"}).out.starts_with("Schnell (11)\n"));
     EXPECT_TRUE(kmctl({"show", "11"}).out.starts_with("Quick Edit the Command Prompt (11)\n"));
     EXPECT_TRUE(inFolder({"show", "11", "--language=English"}).out.starts_with("Quick Edit"));

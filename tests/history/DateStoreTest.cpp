@@ -14,12 +14,12 @@ constexpr std::string_view kCreated =
     "[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"DateModefiedFlage\"=dword:00000001\n\"Language\"=\"English\"\n";
 constexpr const char* kPath = "C:\\Korvane\\DFile.mrc";
 
-struct Dates {
-    explicit Dates(std::string_view registryText = kBareRegistry) { loadRegistry(registry, registryText); }
+struct Machine {
+    explicit Machine(std::string_view registryText = kBareRegistry) { loadRegistry(registry, registryText); }
 
     // Started anew over the same registry and files.
-    void start(const std::string& path = kPath) {
-        store.emplace(registry, files, clock, path, [this] { return titles; });
+    void start(Dates kept = Dates::InFile) {
+        store.emplace(registry, files, clock, DatePlace{kept, kPath}, [this] { return titles; });
         store->Initialise();
     }
     void today(int year, int month, int day) { clock.date = {.year = year, .month = month, .day = day}; }
@@ -43,8 +43,8 @@ std::string earlier(const std::string& date) {
            ")\r\n";
 }
 
-struct CreatedBefore : Dates {
-    explicit CreatedBefore(const std::string& text = earlier("1/2/2001")) : Dates(kCreated) {
+struct CreatedBefore : Machine {
+    explicit CreatedBefore(const std::string& text = earlier("1/2/2001")) : Machine(kCreated) {
         files.put(kPath, {.text = text});
         start();
     }
@@ -53,7 +53,7 @@ struct CreatedBefore : Dates {
 // ---- Creating
 
 TEST(DateStore, WritesMonthDayAndYearWithoutZeros) {
-    Dates dates;
+    Machine dates;
     dates.today(2006, 3, 1);
     dates.start();
     EXPECT_EQ(dates.file(), earlier("3/1/2006"));
@@ -69,7 +69,7 @@ TEST(DateStore, OnlyTheNumberOneMeansThatTheFileWasCreated) {
                                         {"hex:01,00,00,00,ff", true},
                                         {"dword:00000001", true}}) {
         SCOPED_TRACE(data);
-        Dates dates("[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"Language\"=\"Deutsch\"\n\"DateModefiedFlage\"=" +
+        Machine dates("[HKEY_CURRENT_USER\\Software\\Korvane Manager]\n\"Language\"=\"Deutsch\"\n\"DateModefiedFlage\"=" +
                     std::string(data) + '\n');
         dates.files.put(kPath, {.text = earlier("1/2/2001")});
         const std::string before = dates.state();
@@ -101,7 +101,7 @@ TEST(DateStore, RecordsThatShareATitleShareTheFirstOnesDate) {
 }
 
 TEST(DateStore, TheDateBeginsBehindTheFirstComma) {
-    Dates dates;
+    Machine dates;
     dates.titles = {"Cut, copy"};
     dates.start();
     EXPECT_EQ(dates.store->LookUp("Cut, copy"), " copy\",6/15/2005");
@@ -116,10 +116,44 @@ TEST(DateStore, AMissingRecordMakesTheWholeFileAnew) {
     EXPECT_EQ(lookedUp.store->LookUp("Two"), "6/15/2005");
     EXPECT_EQ(lookedUp.file(), earlier("6/15/2005"));
 
+    CreatedBefore stamped(damaged);
+    EXPECT_TRUE(stamped.store->Stamp("Two"));
+    EXPECT_EQ(stamped.file(), earlier("6/15/2005"));
+    EXPECT_EQ(stamped.state(), kCreated);
+    EXPECT_FALSE(stamped.store->Stamp("No such title"));
+
+    // While somebody else reads the file, it cannot be made anew; nothing is claimed and nothing shown that is not there.
+    CreatedBefore refused(damaged);
+    const std::unique_ptr<File> reader = refused.files.openExisting(kPath);
+    EXPECT_FALSE(refused.store->Stamp("Two"));
+    EXPECT_EQ(refused.store->LookUp("Two"), "");
+    EXPECT_EQ(refused.store->LookUp("One"), "1/2/2001");
+    EXPECT_EQ(refused.file(), damaged);
+    EXPECT_NE(refused.state(), kCreated);
+}
+
+TEST(DateStore, AFileThatIsThereAndReadableCountsAsCreatedWhereNoFlagIsKept) {
+    Machine dates;
+    dates.files.put(kPath, {.text = earlier("1/2/2001")});
+    dates.start(Dates::InFileAlone);
+    EXPECT_EQ(dates.store->LookUp("Two"), "1/2/2001");
+    EXPECT_TRUE(dates.store->Stamp("Two"));
+    EXPECT_EQ(dates.store->LookUp("One"), "1/2/2001");
+    dates.files.put(kPath, {.text = "korvane(\"One\",1/2/2001)"});
+    dates.start(Dates::InFileAlone);
+    EXPECT_TRUE(dates.store->Stamp("Two"));
+    EXPECT_EQ(dates.file(), earlier("6/15/2005"));
+
+    Machine first;
+    first.start(Dates::InFileAlone);
+    EXPECT_EQ(first.file(), earlier("6/15/2005"));
+    for (const Machine* each : {&dates, &first}) {
+        EXPECT_EQ(each->state(), kBareRegistry);
+    }
 }
 
 TEST(DateStore, AMissingFileIsMadeAtTheFirstLookUp) {
-    Dates dates(kCreated);
+    Machine dates(kCreated);
     dates.start();
     EXPECT_FALSE(dates.store->Stamp("Two"));
     EXPECT_EQ(dates.file(), "none");
@@ -146,10 +180,10 @@ struct FailingFiles final : Files {
 };
 
 TEST(DateStore, AFailedReadOrWriteKeepsTheTextAndTheNextStampWorks) {
-    Dates dates(kCreated);
+    Machine dates(kCreated);
     dates.files.put(kPath, {.text = earlier("1/2/2001")});
     FailingFiles files(dates.files);
-    DateStore store(dates.registry, files, dates.clock, kPath, [&] { return dates.titles; });
+    DateStore store(dates.registry, files, dates.clock, {.path = kPath}, [&] { return dates.titles; });
     store.Initialise();
     for (const bool diskFull : {false, true}) {
         files.readFails = !diskFull;
@@ -177,7 +211,7 @@ TEST(DateStore, AReadOnlyFileStaysAsItIs) {
 
 TEST(DateStore, WithoutTheUsersSettingsNothingIsTouched) {
     for (const char* denied : {"", "Software", "Software\\Korvane Manager"}) {
-        Dates dates(kCreated);
+        Machine dates(kCreated);
         dates.registry.deny(Root::CurrentUser, denied);
         const std::string before = dates.state();
         dates.start();
@@ -189,8 +223,8 @@ TEST(DateStore, WithoutTheUsersSettingsNothingIsTouched) {
 }
 
 TEST(DateStore, InMemoryItLeavesNoTrace) {
-    Dates dates;
-    dates.start("");
+    Machine dates;
+    dates.start(Dates::InMemory);
     dates.today(2006, 7, 16);
     EXPECT_TRUE(dates.store->Stamp("Two"));
     EXPECT_EQ(dates.store->LookUp("Two"), "7/16/2006");
@@ -200,18 +234,42 @@ TEST(DateStore, InMemoryItLeavesNoTrace) {
 
 // ---- Foreign and damaged files
 
-TEST(DateStore, SurvivesFilesOfAnyForm) {
-    std::string lineFeedsOnly = earlier("1/2/2001");
-    std::erase(lineFeedsOnly, '\r');
-    for (const std::string& text :
-         {std::string(), std::string("\0\0\0", 3), lineFeedsOnly, std::string("korvane(\"Two\"\r"), earlier("")}) {
-        SCOPED_TRACE(text);
-        CreatedBefore dates(text);
-        dates.store->LookUp("Two");
+TEST(DateStore, AStampLosesNoOtherRecordWhateverTheLineEnds) {
+    struct Form {
+        std::string before;
+        std::string after;
+        std::string shown = "1/2/2001";  // of "Two", before
+    };
+    constexpr const char* kAfter =
+        "korvane(\"One\",1/2/2001)\r\nkorvane(\"Two\",6/15/2005)\r\nkorvane(\"Two and a half\",1/2/2001)";
+    const std::string one = "korvane(\"One\",1/2/2001)";
+    const std::string two = "korvane(\"Two\",1/2/2001)";
+    const std::string half = "korvane(\"Two and a half\",1/2/2001)";
+    const std::string after(kAfter);
+    for (const Form& form : {Form{one + '\n' + two + '\n' + half + '\n', after + "\r\n"},
+                             {one + '\r' + two + '\r' + half, after},
+                             {one + "\r\n" + two + '\n' + half + '\r', after + "\r\n"},
+                             {half + "\n\n" + one + '\n' + two, half + "\r\n\r\n" + after.substr(0, after.rfind('\r'))},
+                             {one + two + half, after},
+                             {one + "\nkorvane(\"Two\",1/2/2001\n" + half, after, "1/2/200"},
+                             {one + "\nkorvane(\"Two\"\n" + half, after, ""},
+                             {"\xEF\xBB\xBF" + two + '\n' + one, "\xEF\xBB\xBFkorvane(\"Two\",6/15/2005)\r\n" + one}}) {
+        SCOPED_TRACE(form.before);
+        CreatedBefore dates(form.before);
+        EXPECT_EQ(dates.store->LookUp("Two"), form.shown);
+        EXPECT_EQ(dates.file(), form.before) << "a look writes nothing";
         EXPECT_TRUE(dates.store->Stamp("Two"));
+        EXPECT_EQ(dates.file(), form.after);
         EXPECT_EQ(dates.store->LookUp("Two"), "6/15/2005");
-        EXPECT_NE(dates.file().find("korvane(\"Two\",6/15/2005)"), std::string::npos);
+        EXPECT_EQ(dates.store->LookUp("One"), "1/2/2001");
     }
+    // A translated title may have line ends of its own.
+    Machine translated;
+    translated.titles = {"One\nmore", "Two"};
+    translated.start();
+    translated.today(2006, 7, 16);
+    EXPECT_TRUE(translated.store->Stamp("Two"));
+    EXPECT_EQ(translated.store->LookUp("One\nmore"), "6/15/2005");
 }
 
 TEST(DateStore, HandlesHugeFilesInAMoment) {

@@ -19,7 +19,7 @@ class ScriptedHost final : public DialogHost {
 public:
     bool switchesFields = false;
 
-    bool applySkinElement(DialogControls&, const SkinElement&) override { return true; }
+    bool applySkinElement(DialogControls&, const SkinAssignment&) override { return true; }
     void showSkinFailure() override {}
     std::uint32_t randomSeed() override { return 1; }
     bool boxEnablesFields() override { return switchesFields; }

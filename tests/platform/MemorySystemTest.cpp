@@ -8,9 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/cli/TestFolder.h"
-#ifdef _WIN32
-#include "platform/win32/Win32System.h"
-#endif
+#include "tests/platform/FilesBehaviour.h"
 #include "tests/platform/ProfileStringsBehaviour.h"
 
 namespace korvane {
@@ -49,50 +47,17 @@ TEST_F(RealFileTest, AnIniFileIsReadOnceAndKept) {
     EXPECT_EQ(IniFile().getString("s", "k", "a folder", 100, folder.path()), "a folder");
 }
 
-template <class FilesOfPlatform>
-class FilesTest : public RealFileTest {
-protected:
-    FilesOfPlatform files;
+class MemoryFilesEnvironment {
+public:
+    Files& files() { return files_; }
+    std::string path() const { return "file"; }
+    void write(std::string_view text) { files_.put("file", {.text = std::string(text)}); }
+    std::string read() const { return files_.find("file")->text; }
+
+private:
+    MemoryFiles files_;
 };
-
-#ifdef _WIN32
-using EveryFiles = testing::Types<StdioFiles, Win32Files>;
-#else
-using EveryFiles = testing::Types<StdioFiles>;
-#endif
-TYPED_TEST_SUITE(FilesTest, EveryFiles);
-
-TYPED_TEST(FilesTest, RewritingReplacesTheWholeContent) {
-    writeFile(this->path, "a long first text");
-    const std::unique_ptr<File> open = this->files.openExisting(this->path);
-    ASSERT_NE(open, nullptr);
-    for (const std::string expected : {"short", "and longer than it was before"}) {
-        EXPECT_TRUE(open->rewrite(expected));
-        EXPECT_TRUE(open->readAll(this->text));
-        EXPECT_EQ(this->text, expected);
-        EXPECT_EQ(readFile(this->path), expected);
-    }
-}
-
-TYPED_TEST(FilesTest, ANewFileIsEmptyAtOnceAndCannotBeRead) {
-    writeFile(this->path, "old");
-    std::unique_ptr<File> made = this->files.createAlways(this->path);
-    ASSERT_NE(made, nullptr);
-    EXPECT_FALSE(made->readAll(this->text));
-    EXPECT_EQ(this->text, "kept");
-    made.reset();
-    EXPECT_EQ(readFile(this->path), "");
-    EXPECT_EQ(this->files.openExisting(this->folder.file("missing")), nullptr);
-    EXPECT_EQ(this->files.createAlways(this->folder.file("no such folder/file")), nullptr);
-}
-
-#ifdef __linux__
-TEST_F(RealFileTest, AFullDiskIsReportedByTheRewriteItself) {
-    const std::unique_ptr<File> full = StdioFiles().openExisting("\\dev\\full");
-    ASSERT_NE(full, nullptr);
-    EXPECT_FALSE(full->rewrite("text"));
-}
-#endif
+INSTANTIATE_TYPED_TEST_SUITE_P(Memory, FilesBehaviour, MemoryFilesEnvironment);
 
 }  // namespace
 }  // namespace korvane

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/cli/TestFolder.h"
+#include "tests/platform/FilesBehaviour.h"
 #include "tests/platform/ProfileStringsBehaviour.h"
 #include "tests/platform/RegistryBehaviour.h"
 
@@ -51,25 +52,19 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Live, RegistryBehaviour, Win32Registry);
 INSTANTIATE_TYPED_TEST_SUITE_P(Windows, ProfileStringsBehaviour, WindowsProfileEnvironment);
 
-TEST(Win32FilesTest, AnOpenFileIsSharedANewOneIsNotReadAndWhatIsInUseStaysAsItIs) {
-    const TestFolder folder;
-    const std::string path = folder.file("a");
-    writeFile(path, "old");
-    Win32Files files;
-    const HANDLE exclusive = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_EQ(files.openExisting(path), nullptr);
-    EXPECT_EQ(files.createAlways(path), nullptr);
-    CloseHandle(exclusive);
-    EXPECT_EQ(readFile(path), "old");
-    {
-        const std::unique_ptr<File> first = files.openExisting(path);
-        const std::unique_ptr<File> second = files.openExisting(path);
-        ASSERT_TRUE(first != nullptr && second != nullptr);
-    }
-    const std::unique_ptr<File> made = files.createAlways(path);
-    EXPECT_EQ(files.openExisting(path), nullptr);
-    EXPECT_NE(files.createAlways(path), nullptr);
-}
+class WindowsFilesEnvironment {
+public:
+    Files& files() { return files_; }
+    std::string path() const { return folder_.file("file"); }
+    void write(std::string_view text) { writeFile(path(), text); }
+    std::string read() const { return readFile(path()); }
+
+private:
+    TestFolder folder_;
+    Win32Files files_;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Windows, FilesBehaviour, WindowsFilesEnvironment);
 
 TEST(Win32SystemTest, FoldersDrivesAndVersionAreThoseOfTheSystem) {
     Win32Folders folders;
