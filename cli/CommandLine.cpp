@@ -31,13 +31,15 @@ Commands:
 
 ITEM is an ItemId or a title. CONTROL is a control's number, as show prints it:
   1013=1               sets a check box (0 clears it)
-  1015=TEXT            types a text into an edit field or a combo box
+  1015=TEXT            types a text into an edit field
   1021=#2              picks an entry of a combo box, counted from 0 (#-1: none)
+  1021=TEXT            picks the entry of that text
   1007=#3              selects a row of a list
   1009:3=1             sets the check box of a list's row
 
 Options, before or behind the command:
-  --registry FILE      Works on this .reg file; apply writes it back.
+  --registry FILE      Works on this .reg file; apply writes it back, and waits
+                       up to 5 seconds for another kmctl that is changing it.
   --windows NAME       The Windows that the file comes from: 95, 98, me, nt4,
                        2000, xp, 2003 or vista (xp)
   --windows-folder DIR     its Windows folder (C:\WINDOWS)
@@ -47,15 +49,17 @@ Options, before or behind the command:
                        removable, fixed, remote, cdrom and ramdisk
   --program-folder DIR Korvane Manager's folder, with its dates and language
                        files; without it dates are not kept
-  --language NAME      Uses Language\NAME.ini of the program folder.
+  --language NAME      Uses Language\NAME.ini of the program folder; English
+                       needs no file.
   --all                list: includes the records that have no row in the tree.
   --json               Prints one JSON object.
   --help               Prints this.
   --version            Prints the version.
   --                   What follows is no option.
 
-The exit status is 0 when done, 1 when it failed, 2 for wrong usage or
-unreadable input, 3 when the program refused with an alert.
+The exit status is 0 when done, 1 when it failed or a write was denied, 2 for
+wrong usage or unreadable input, 3 when the program refused with an alert. A key
+that does not exist is no failure, but named, as is what was not written.
 )";
 
 struct DriveKind {
@@ -295,11 +299,14 @@ std::optional<int> wholeNumber(std::string_view text) {
 }
 
 std::string quotedForMessage(std::string_view text) {
+    std::size_t length = std::min(text.size(), kQuotedInMessage);
+    // Not in the middle of a letter of UTF-8.
+    for (int step = 0; step < 3 && length < text.size() && (text[length] & 0xC0) == 0x80; ++step) {
+        --length;
+    }
     std::string quoted = "\"";
-    quoted += text.substr(0, kQuotedInMessage);
-    std::ranges::replace_if(
-        quoted, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
-    return quoted += text.size() > kQuotedInMessage ? "...\"" : "\"";
+    quoted += text.substr(0, length);
+    return quoted += text.size() > length ? "...\"" : "\"";
 }
 
 }  // namespace korvane

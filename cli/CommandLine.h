@@ -55,7 +55,7 @@ std::string_view helpText();
 // A decimal number without a sign; nothing for any other text and for a number that does not fit.
 std::optional<int> wholeNumber(std::string_view text);
 
-// A text in quotation marks, safe to show on a terminal.
+// A text in quotation marks, cut where it is very long.
 std::string quotedForMessage(std::string_view text);
 
 }  // namespace korvane

@@ -1,6 +1,7 @@
 // Elsewhere than on Windows the system speaks UTF-8, and there is no live registry.
 #include "cli/HostText.h"
 
+#include "cli/SafeText.h"
 #include "text/Codepage.h"
 
 #ifdef _WIN32
@@ -37,6 +38,19 @@ std::string toUtf8(std::string_view text, ProgramText encoding) {
 
 std::string toHost(std::string_view text) { return std::string(text); }
 
+// The code page may be one of one byte, of one or two, or UTF-8.
+std::size_t firstHostCharacter(std::string_view text, char32_t& character) {
+    if (GetACP() == CP_UTF8) {
+        return firstUtf8Character(text, character);
+    }
+    const std::size_t length = IsDBCSLeadByte(static_cast<BYTE>(text.front())) != 0 && text.size() > 1 ? 2 : 1;
+    wchar_t wide = 0;
+    const bool known = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), static_cast<int>(length), &wide,
+                                           1) == 1;
+    character = known ? wide : kNoCharacter;
+    return known ? length : 1;
+}
+
 std::string fileNameToUtf8(std::string_view name) { return toUtf8(name, ProgramText::SystemCodePage); }
 
 std::optional<std::string> fromArgument(std::string_view argument, ProgramText encoding) {
@@ -52,6 +66,10 @@ std::optional<std::string> fromArgument(std::string_view argument, ProgramText e
 std::string toUtf8(std::string_view text, ProgramText) { return toUtf8(fromAnsi(text)); }
 
 std::string toHost(std::string_view text) { return toUtf8(fromAnsi(text)); }
+
+std::size_t firstHostCharacter(std::string_view text, char32_t& character) {
+    return firstUtf8Character(text, character);
+}
 
 // A file's name may hold any bytes.
 std::string fileNameToUtf8(std::string_view name) { return toUtf8(fromUtf8(name).value_or(fromAnsi(name))); }

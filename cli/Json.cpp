@@ -1,6 +1,8 @@
 // Commas and escapes.
 #include "cli/Json.h"
 
+#include "cli/SafeText.h"
+
 namespace korvane {
 
 void JsonWriter::separate() {
@@ -38,23 +40,26 @@ void JsonWriter::plain(std::string_view value) {
     json_ += value;
 }
 
+// Control characters are escaped, also where JSON would allow them as they are: the text may go to a terminal.
 void JsonWriter::quoted(std::string_view utf8) {
     constexpr std::string_view kHex = "0123456789abcdef";
     json_ += '"';
-    for (const char c : utf8) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\') {
-            json_ += '\\';
-            json_ += c;
-        } else if (c == '\n' || c == '\r' || c == '\t') {
-            json_ += c == '\n' ? "\\n" : c == '\r' ? "\\r" : "\\t";
-        } else if (byte < 0x20) {
-            json_ += "\\u00";
-            json_ += kHex[byte >> 4];
-            json_ += kHex[byte & 0xF];
+    while (!utf8.empty()) {
+        char32_t character = 0;
+        const std::size_t length = firstUtf8Character(utf8, character);
+        if (character == '"' || character == '\\') {
+            json_ += {'\\', utf8.front()};
+        } else if (character == '\n' || character == '\r' || character == '\t') {
+            json_ += character == '\n' ? "\\n" : character == '\r' ? "\\r" : "\\t";
+        } else if (isControl(character)) {
+            json_ += "\\u";
+            for (int shift = 12; shift >= 0; shift -= 4) {
+                json_ += kHex[character >> shift & 0xF];
+            }
         } else {
-            json_ += c;
+            json_ += character == kNoCharacter ? "\\ufffd" : utf8.substr(0, length);
         }
+        utf8.remove_prefix(length);
     }
     json_ += '"';
 }

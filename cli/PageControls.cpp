@@ -19,6 +19,10 @@ std::optional<int> entryNumber(std::string_view value) {
     return value.starts_with('#') ? wholeNumber(value.substr(1)) : std::nullopt;
 }
 
+// A combo box with more entries is cut: nobody reads the numbers from 0 to 10000.
+constexpr std::size_t kMostEntries = 200;
+constexpr std::size_t kEntriesWhenCut = 3;
+
 std::string howMany(std::size_t count, const char* one, const char* many) {
     return std::to_string(count) + ' ' + (count == 1 ? one : many);
 }
@@ -45,11 +49,18 @@ Reason typeText(MemoryDialog& page, const MemoryControl& control, const Assignme
     return std::nullopt;
 }
 
-// In a list that cannot be typed into, a text picks the entry of that name.
-std::optional<int> entryNamed(const MemoryControl& control, std::string_view name) {
-    const std::u16string wanted = upperCase(fromAnsi(name));
-    const auto found = std::ranges::find_if(
-        control.entries, [&](const MemoryComboEntry& entry) { return upperCase(fromAnsi(entry.text)) == wanted; });
+// A text picks the entry of that name, in capital letters or not.
+std::optional<int> entryNamed(const MemoryControl& control, std::string_view name, ProgramText encoding) {
+    const std::optional<std::string> text = fromArgument(name, encoding);
+    if (!text) {
+        return std::nullopt;
+    }
+    const std::u16string wanted = upperCase(fromAnsi(*text));
+    auto found = std::ranges::find(control.entries, *text, &MemoryComboEntry::text);
+    if (found == control.entries.end()) {
+        found = std::ranges::find_if(
+            control.entries, [&](const MemoryComboEntry& entry) { return upperCase(fromAnsi(entry.text)) == wanted; });
+    }
     return found == control.entries.end() ? std::nullopt
                                           : std::optional(static_cast<int>(found - control.entries.begin()));
 }
@@ -62,14 +73,12 @@ Reason setCombo(MemoryDialog& page, const MemoryControl& control, const Assignme
         }
         return std::nullopt;
     }
-    if (editable && !assignment.value.starts_with('#')) {
-        return typeText(page, control, assignment, encoding);
-    }
-    const std::optional<int> index = assignment.value.starts_with('#') ? entryNumber(assignment.value)
-                                                                       : entryNamed(control, assignment.value);
+    const std::optional<int> index = assignment.value.starts_with('#')
+                                         ? entryNumber(assignment.value)
+                                         : entryNamed(control, assignment.value, encoding);
     if (!index || !page.pickComboEntry(control.id, *index)) {
-        return theControl(assignment) + " has no entry " + quotedForMessage(assignment.value) + " (it has " +
-               howMany(control.entries.size(), "entry", "entries") + ", counted from #0)";
+        return theControl(assignment) + " has no entry " + quotedForMessage(assignment.value) + "; it has " +
+               entriesOf(control) + (editable ? ", and #-1 for none" : "");
     }
     return std::nullopt;
 }
@@ -102,6 +111,19 @@ Reason setList(MemoryDialog& page, const MemoryControl& control, const Assignmen
 }
 
 }  // namespace
+
+std::string entriesOf(const MemoryControl& combo) {
+    std::string names;
+    const std::size_t count = combo.entries.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (count > kMostEntries && i == kEntriesWhenCut) {
+            i = count - 1;
+            names += ", ...";
+        }
+        names += (i == 0 ? "#" : ", #") + std::to_string(i) + ' ' + toHost(combo.entries[i].text);
+    }
+    return names.empty() ? "no entries" : names;
+}
 
 std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, ProgramText encoding) {
     const MemoryControl* control = page.find(assignment.control);

@@ -13,4 +13,7 @@ namespace korvane {
 // Why the control cannot be set so, or nothing when it is.
 std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, ProgramText encoding);
 
+// The entries of a combo box with their numbers, for a message; of very many only the first and the last.
+std::string entriesOf(const MemoryControl& combo);
+
 }  // namespace korvane

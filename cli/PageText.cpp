@@ -5,6 +5,7 @@
 
 #include "pages/PageLayout.h"
 #include "res/ControlIds.h"
+#include "text/ReplaceAll.h"
 
 #include <algorithm>
 
@@ -19,11 +20,11 @@ constexpr std::size_t kMargin = 6;
 constexpr std::size_t kMostEntries = 200;
 constexpr std::size_t kEntriesWhenCut = 3;
 
-// What the registry holds may not drive the terminal.
-std::string printable(std::string_view text) {
+// A text of the registry may hold line feeds of its own, which are none of the page's. Other control characters are
+// left to the output.
+std::string oneLine(std::string_view text) {
     std::string line(text);
-    std::ranges::replace_if(
-        line, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; }, '?');
+    replaceAll(line, "\n", "\\x0a");
     return line;
 }
 
@@ -33,7 +34,7 @@ void appendWords(std::string& out, std::string_view line, std::size_t indent) {
     bool first = true;
     for (std::size_t start = line.find_first_not_of(' '); start != std::string_view::npos;) {
         const std::size_t end = std::min(line.find(' ', start), line.size());
-        const std::string word = printable(line.substr(start, end - start));
+        const std::string_view word = line.substr(start, end - start);
         if (!first && column + 1 + word.size() > kWidth) {
             out += '\n' + std::string(indent, ' ');
             column = indent;
@@ -99,12 +100,12 @@ private:
                 endLine(control);
                 break;
             case ControlKind::Edit:
-                begin(control, labelOf(control.id) + "[" + printable(control.text) + "]");
+                begin(control, labelOf(control.id) + "[" + oneLine(control.text) + "]");
                 endLine(control);
                 break;
             case ControlKind::Combo:
             case ControlKind::ColourCombo:
-                begin(control, labelOf(control.id) + "[" + printable(control.text) + "]");
+                begin(control, labelOf(control.id) + "[" + oneLine(control.text) + "]");
                 endLine(control);
                 printEntries(control);
                 break;
@@ -156,7 +157,7 @@ private:
     std::string labelOf(int field) const {
         for (const RowControls& row : layout_.rows) {
             if ((row.edit == field || row.combo == field) && isShown(row.label)) {
-                const std::string label = printable(view_.controls->find(row.label)->text);
+                const std::string label = oneLine(view_.controls->find(row.label)->text);
                 return label + (label.ends_with(':') ? " " : ": ");
             }
         }
@@ -172,7 +173,7 @@ private:
             }
             const bool selected = static_cast<int>(i) == control.selection;
             out_ += std::string(kMargin, ' ') + (selected ? "> #" : "  #") + std::to_string(i) + "  " +
-                    printable(control.entries[i].text) + '\n';
+                    oneLine(control.entries[i].text) + '\n';
         }
     }
 
@@ -204,9 +205,9 @@ private:
     static std::vector<std::size_t> columnWidths(const MemoryControl& control) {
         std::vector<std::size_t> widths;
         for (std::size_t column = 0; column < control.columns.size(); ++column) {
-            std::size_t width = control.columns[column].heading.size();
+            std::size_t width = oneLine(control.columns[column].heading).size();
             for (const MemoryListRow& row : control.rows) {
-                width = std::max(width, row.cell(column).size());
+                width = std::max(width, oneLine(row.cell(column)).size());
             }
             widths.push_back(width);
         }
@@ -214,8 +215,9 @@ private:
     }
 
     void appendCell(std::string_view text, std::size_t width) {
-        out_ += printable(text);
-        out_.append(width - text.size() + 2, ' ');
+        const std::string line = oneLine(text);
+        out_ += line;
+        out_.append(width - line.size() + 2, ' ');
     }
 
     void endTableLine() {
@@ -231,7 +233,7 @@ private:
 }  // namespace
 
 std::string pageText(const PageView& view) {
-    std::string text = printable(view.title) + " (" + std::to_string(view.item) + ")\n\n";
+    std::string text = oneLine(view.title) + " (" + std::to_string(view.item) + ")\n\n";
     return text + (view.page == Page::None ? "Nothing is shown for this item.\n" : PagePrinter(view).print());
 }
 

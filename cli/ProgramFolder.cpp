@@ -2,13 +2,12 @@
 #include "cli/ProgramFolder.h"
 
 #include "platform/stdio/StdioFiles.h"
+#include "cli/HostText.h"
+#include "text/Codepage.h"
 
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include "cli/HostText.h"
-#include "text/Codepage.h"
-
 #include <dirent.h>
 #include <sys/stat.h>
 #endif
@@ -16,6 +15,50 @@
 #include <algorithm>
 
 namespace korvane {
+namespace {
+
+std::u16string comparable(std::string_view name) {
+    return upperCase(fromUtf8(fileNameToUtf8(name)).value_or(std::u16string()));
+}
+
+// What is in the folder, in no order; nothing where there is no such folder.
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
+#ifdef _WIN32
+    WIN32_FIND_DATAA entry{};
+    const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &entry);
+    if (search != INVALID_HANDLE_VALUE) {
+        do {
+            names.emplace_back(entry.cFileName);
+        } while (FindNextFileA(search, &entry) != 0);
+        FindClose(search);
+    }
+#else
+    if (DIR* const entries = opendir(folder.c_str())) {
+        for (const dirent* entry = readdir(entries); entry != nullptr; entry = readdir(entries)) {
+            names.emplace_back(entry->d_name);
+        }
+        closedir(entries);
+    }
+#endif
+    return names;
+}
+
+}  // namespace
+
+bool sameFileName(std::string_view one, std::string_view other) { return comparable(one) == comparable(other); }
+
+std::vector<std::string> ProgramFolder::languages() const {
+    constexpr std::string_view kEnding = ".ini";
+    std::vector<std::string> names;
+    for (const std::string& name : namesIn(hostPath(folder_ + "\\Language"))) {
+        if (name.size() > kEnding.size() && sameFileName(name.substr(name.size() - kEnding.size()), kEnding)) {
+            names.push_back(name.substr(0, name.size() - kEnding.size()));
+        }
+    }
+    std::ranges::sort(names);
+    return names;
+}
 
 #ifdef _WIN32
 
@@ -30,26 +73,16 @@ std::string ProgramFolder::hostPath(const std::string& path) const { return path
 
 namespace {
 
-std::u16string comparable(std::string_view name) { return upperCase(fromUtf8(name).value_or(fromAnsi(name))); }
-
 // The name as the folder spells it; as it is when the folder has none like it.
 std::string spelledInFolder(const std::string& folder, const std::string& name) {
     struct stat status {};
     if (stat((folder + '/' + name).c_str(), &status) == 0) {
         return name;
     }
-    std::string found = name;
-    if (DIR* const entries = opendir(folder.c_str())) {
-        const std::u16string wanted = comparable(name);
-        for (const dirent* entry = readdir(entries); entry != nullptr; entry = readdir(entries)) {
-            if (comparable(entry->d_name) == wanted) {
-                found = entry->d_name;
-                break;
-            }
-        }
-        closedir(entries);
-    }
-    return found;
+    const std::vector<std::string> names = namesIn(folder);
+    const std::u16string wanted = comparable(name);
+    const auto found = std::ranges::find(names, wanted, comparable);
+    return found == names.end() ? name : *found;
 }
 
 }  // namespace

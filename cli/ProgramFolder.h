@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace korvane {
 
@@ -26,12 +27,17 @@ public:
     bool exists() const;
     // What the program takes for the path of its executable.
     std::string executable() const { return given() ? folder_ + "\\KorvaneManager.exe" : std::string(); }
+    // The names of its language files, without ".ini", in alphabetical order and as the host spells them.
+    std::vector<std::string> languages() const;
     // The host's path for one of the program's, which begins with the folder.
     std::string hostPath(const std::string& path) const;
 
 private:
     std::string folder_;
 };
+
+// Whether the program would find the one file by the other's name.
+bool sameFileName(std::string_view one, std::string_view other);
 
 class FolderProfile final : public ProfileStrings {
 public:

@@ -2,10 +2,13 @@
 #include "cli/Session.h"
 
 #include "cli/LockedFiles.h"
-#include "cli/RegFileStore.h"
+#include "catalogue/Catalogue.h"
+#include "cli/InputFile.h"
 #include "pages/PageLayout.h"
 #include "regfile/RegFile.h"
 #include "res/ControlIds.h"
+
+#include <algorithm>
 
 namespace korvane {
 namespace {
@@ -14,7 +17,7 @@ constexpr std::string_view kDefaultAppDataFolder = "C:\\Documents and Settings\\
 
 }  // namespace
 
-Session::Session(const CommandLine& options) : options_(options) {
+Session::Session(const CommandLine& options, Output& output) : options_(options), output_(output) {
     folders_.applicationData = kDefaultAppDataFolder;
 }
 
@@ -22,7 +25,12 @@ std::optional<Problem> Session::start() {
     if (std::optional<Problem> problem = openRegistry()) {
         return problem;
     }
-    return startWindow();
+    std::optional<Problem> problem = startWindow();
+    // The live registry keeps what the start has written to it, so the date file must be kept as well.
+    if (!problem && !worksOnFile()) {
+        saveDates();
+    }
+    return problem;
 }
 
 std::optional<Problem> Session::openRegistry() {
@@ -34,7 +42,11 @@ std::optional<Problem> Session::openRegistry() {
     }
     const std::string& file = *options_.registry;
     std::string bytes;
-    if (const std::optional<std::string> error = readInputFile(file, bytes)) {
+    if (options_.command == Command::Apply) {
+        if (std::optional<Problem> problem = update_.begin(file, bytes)) {
+            return problem;
+        }
+    } else if (const std::optional<std::string> error = readInputFile(file, bytes)) {
         return unreadable(file + ": " + *error);
     }
     if (const std::optional<RegFileError> error = loadRegFile(bytes, fileRegistry_)) {
@@ -57,7 +69,8 @@ std::optional<Problem> Session::startWindow() {
             return unreadable(*options_.programFolder + ": there is no such folder");
         }
     }
-    platform_.emplace(Platform{.registry = live_ != nullptr ? live_->registry() : fileRegistry_,
+    journal_.emplace(live_ != nullptr ? live_->registry() : fileRegistry_);
+    platform_.emplace(Platform{.registry = *journal_,
                                .messages = messages_,
                                .version = live_ != nullptr ? live_->version() : version_,
                                .clock = clock_,
@@ -68,11 +81,9 @@ std::optional<Problem> Session::startWindow() {
                                .help = help_});
     app_.emplace(*platform_, programFolder_.executable());
     if (options_.language) {
-        const std::optional<std::string> name = fromArgument(*options_.language, encoding_);
-        if (!name) {
-            return wrongUsage("there cannot be a language " + quotedForMessage(*options_.language));
+        if (std::optional<Problem> problem = useLanguage(*options_.language)) {
+            return problem;
         }
-        app_->forceLanguage(*name);
     }
     dialog_.emplace(*app_, window_, datesKept());
     if (!window_.run(*dialog_)) {
@@ -89,9 +100,45 @@ Dates Session::datesKept() const {
     return worksOnFile() ? Dates::InFileAlone : Dates::InFile;
 }
 
+// A name from the list of those that are there is never a path. English needs no file.
+std::optional<Problem> Session::useLanguage(const std::string& name) {
+    std::vector<std::string> there = programFolder_.languages();
+    const auto isWanted = [&](const std::string& each) { return sameFileName(each, name); };
+    if (std::ranges::none_of(there, [](const std::string& each) { return sameFileName(each, "English"); })) {
+        there.insert(there.begin(), "English");
+    }
+    const std::optional<std::string> text = fromArgument(name, encoding_);
+    if (!text || std::ranges::none_of(there, isWanted)) {
+        std::string names;
+        for (const std::string& each : there) {
+            names += (names.empty() ? "" : ", ") + each;
+        }
+        return wrongUsage("there is no language " + quotedForMessage(name) + "; there are: " + names);
+    }
+    app_->forceLanguage(*text);
+    return std::nullopt;
+}
+
+// An item's page leaves the colour list as it is unless it reads a colour that the list has: an empty selection tells
+// the two apart.
 void Session::select(int item) {
     item_ = item;
+    MemoryDialog& colours = *window_.page(layoutOf(Page::CheckCombos).templateId);
+    const int before = colours.comboSelection(IDC_COLOUR_COMBO);
+    colours.selectComboEntry(IDC_COLOUR_COMBO, kNoSelection);
     window_.selectData(static_cast<std::uint32_t>(item));
+    showsRandomColour_ =
+        colours.usable(IDC_COLOUR_COMBO) && colours.comboSelection(IDC_COLOUR_COMBO) == kNoSelection;
+    if (colours.comboSelection(IDC_COLOUR_COMBO) == kNoSelection) {
+        colours.selectComboEntry(IDC_COLOUR_COMBO, before);
+    }
+}
+
+bool Session::accepts(int item) { return findTweak(item)->gate.open(COsVersion(platform_->version)); }
+
+bool Session::clickApply() {
+    journal_->clear();
+    return window_.clickApply();
 }
 
 Page Session::shownPage() {
@@ -122,13 +169,17 @@ PageView Session::view() {
 // A run over a .reg file has dated its own copy only: the stamp is repeated in the file as it is by now, which keeps the
 // stamps of others.
 bool Session::saveDates() {
-    if (datesKept() != Dates::InFileAlone || stampCount() == 0) {
-        return dialog_->dates().lastFailure().empty();
+    bool saved = dialog_->dates().lastFailure().empty();
+    if (datesKept() == Dates::InFileAlone && stampCount() > 0) {
+        LockedFiles files(programFolder_);
+        DateStore dates(fileRegistry_, files, clock_, dialog_->dates().place(), [this] { return items().titles(); });
+        dates.Initialise();
+        saved = dates.Stamp(items().title(item_));
     }
-    LockedFiles files(programFolder_);
-    DateStore dates(fileRegistry_, files, clock_, dialog_->dates().place(), [this] { return items().titles(); });
-    dates.Initialise();
-    return dates.Stamp(items().title(item_));
+    if (!saved) {
+        output_.note("the dates could not be written to the program folder");
+    }
+    return saved;
 }
 
 std::optional<Problem> Session::saveRegistry(bool& written) {
@@ -141,10 +192,10 @@ std::optional<Problem> Session::saveRegistry(bool& written) {
     if (bytes && bytes == savedBefore_) {
         return std::nullopt;
     }
-    const std::optional<std::string> reason =
-        bytes ? replaceFile(*options_.registry, *bytes) : std::optional("cannot be written: " + error);
-    written = !reason;
-    return reason ? std::optional(failure(*options_.registry + ": " + *reason)) : std::nullopt;
+    std::optional<Problem> problem =
+        bytes ? update_.commit(*bytes) : failure(*options_.registry + ": cannot be written: " + error);
+    written = !problem;
+    return problem;
 }
 
 }  // namespace korvane

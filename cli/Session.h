@@ -5,10 +5,13 @@
 #include "app/KorvaneApp.h"
 #include "app/MainDlg.h"
 #include "cli/CommandLine.h"
+#include "cli/FileUpdate.h"
 #include "cli/HostText.h"
 #include "cli/LiveSystem.h"
+#include "cli/Output.h"
 #include "cli/Problem.h"
 #include "cli/ProgramFolder.h"
+#include "cli/WriteJournal.h"
 #include "platform/memory/MemoryMainWindow.h"
 #include "regfile/MemoryRegistry.h"
 #include "platform/memory/MemorySystem.h"
@@ -38,8 +41,8 @@ public:
 
 class Session {
 public:
-    // The options are borrowed for the whole run.
-    explicit Session(const CommandLine& options);
+    // Both are borrowed for the whole run.
+    Session(const CommandLine& options, Output& output);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -48,12 +51,20 @@ public:
 
     const ItemTable& items() const { return app_->items(); }
     MemoryMainWindow& window() { return window_; }
+    // Presses "Apply Changes"; false when nobody could.
+    bool clickApply();
     const std::vector<MessageBoxRequest>& alerts() const { return messages_.shown; }
     int stampCount() const { return dialog_->stampCount(); }
+    // What clickApply() tried to change in the registry.
+    const std::vector<RegistryAttempt>& attempts() const { return journal_->attempts(); }
     ProgramText encoding() const { return encoding_; }
 
     // Selects the item as a click on its row would, whether or not it has one.
     void select(int item);
+    // Whether the Windows of this session accepts the item.
+    bool accepts(int item);
+    // Whether the page's colour list shows the random colour that it starts with, because none of its colours is stored.
+    bool showsRandomColour() const { return showsRandomColour_; }
     PageView view();
     // The page's controls to act on; null when nothing is shown.
     MemoryDialog* page();
@@ -61,7 +72,7 @@ public:
     bool worksOnFile() const { return live_ == nullptr; }
     // Writes the .reg file back if the registry is another than before the start, and says so.
     std::optional<Problem> saveRegistry(bool& written);
-    // Writes the date of the selected item, if it was stamped. False when dates could not be read from or written to the
+    // Writes the date of the selected item, if it was stamped. False, and noted, if dates could not be read from or written to the
     // program folder.
     bool saveDates();
 
@@ -69,11 +80,14 @@ private:
     std::optional<Problem> openRegistry();
     std::optional<Problem> startWindow();
     Dates datesKept() const;
+    std::optional<Problem> useLanguage(const std::string& name);
     Page shownPage();
 
     const CommandLine& options_;
+    Output& output_;
     std::unique_ptr<LiveSystem> live_;
     MemoryRegistry fileRegistry_;
+    FileUpdate update_;  // of the registry file, when it is to be changed
     std::optional<std::string> savedBefore_;
     ProgramText encoding_ = ProgramText::Windows1252;
 
@@ -87,11 +101,13 @@ private:
     FolderProfile profile_{programFolder_};
     CopiedFiles files_{programFolder_};
 
+    std::optional<WriteJournal> journal_;
     std::optional<Platform> platform_;
     std::optional<CKorvaneApp> app_;
     MemoryMainWindow window_;
     std::optional<CMainDlg> dialog_;
     int item_ = 0;
+    bool showsRandomColour_ = false;
 };
 
 }  // namespace korvane

@@ -1,6 +1,9 @@
 // apply: what it writes to the file, what it says, and what leaves the file untouched.
+#include "cli/ApplyReport.h"
+#include "regfile/MemoryRegistry.h"
 #include "text/Codepage.h"
 #include "tests/cli/KmctlTest.h"
+#include "tests/platform/RegistryBehaviour.h"
 
 namespace korvane {
 namespace {
@@ -45,10 +48,10 @@ TEST_F(ApplyTest, ControlsAreSetInTheOrderGiven) {
         const char* second;
         const char* written;
     };
-    // Picking an entry replaces a typed text; typing takes the selection away, and then -1 is written.
+    // An entry goes by its number or its text; none at all is written as -1.
     for (const auto& [item, first, second, written] :
-         {Case{"8", "1021=whatever", "1021=#3", "Command Processor]\r\n\"CompletionChar\"=dword:00000004"},
-          Case{"8", "1021=#3", "1021=whatever", "Command Processor]\r\n\"CompletionChar\"=dword:ffffffff"},
+         {Case{"8", "1021=#-1", "1021=ctrl-d", "Command Processor]\r\n\"CompletionChar\"=dword:00000004"},
+          Case{"8", "1021=#3", "1021=#-1", "Command Processor]\r\n\"CompletionChar\"=dword:ffffffff"},
           Case{"12", "1015=first", "1015=C:\\other = 1.bat", "\"AutoRun\"=\"C:\\\\other = 1.bat\""},
           Case{"5", "1007=#2", "1007=#12", "\"DefaultColor\"=dword:0000000c"}}) {
         writeFile(registry_, kTestRegistry);
@@ -110,18 +113,89 @@ TEST_F(ApplyTest, WhatAPersonCouldNotDoIsWrongUsageAndNothingIsApplied) {
              Case{"11", "1013=1", "1013=2", "control 1013 is a check box and takes 0 or 1, not \"2\""},
              Case{"11", "1013=1", "1013:0=1", "control 1013 is no list and has no rows"},
              Case{"12", "1015=x", "1015=a\nb", "control 1015 takes one line"},
-             Case{"8", "1021=#0", "1021=#5", "control 1021 has no entry \"#5\" (it has 5 entries, counted from #0)"},
+             Case{"8", "1021=#0", "1021=#5", "control 1021 has no entry \"#5\"; it has #0 Disable, #1 Backspace key, "},
+             Case{"8", "1021=#0", "1022=nope", "#3 Ctrl-D, #4 Ctrl-F, and #-1 for none\n"},
              Case{"7", "1007=#1", "1007=#3", "control 1007 has no such row (it has 3 rows, counted from 0)"},
              Case{"68", "1055=Red", "1055=Puce", "control 1055 has no entry \"Puce\""},
              Case{"68", "1055=Red", "1055=#-1", "control 1055 always has an entry selected"},
+             Case{"68", "", "", "add 1055=NAME; it has #0 AliceBlue, "},
              Case{"7", "1007=#1", "1007:0=1", "the rows of control 1007 have no check boxes"},
          }) {
-        const KmctlResult result = kmctl({"apply", item, fine, wrong, "--json"});
+        const KmctlResult result = *fine == '\0' ? kmctl({"apply", item, "--json"})
+                                                : kmctl({"apply", item, fine, wrong, "--json"});
         EXPECT_EQ(result.status, 2) << wrong;
         EXPECT_EQ(result.out, "");
         EXPECT_TRUE(has(result.err, reason)) << result.err;
         expectUntouched();
     }
+}
+
+TEST_F(ApplyTest, AColourIsAskedForOnlyWhereARandomOneWouldBeStored) {
+    EXPECT_EQ(kmctl({"apply", "68", "--windows=95"}).status, 3) << "the gate comes first";
+    EXPECT_EQ(kmctl({"apply", "68", "1055=Red"}).status, 0);
+    const std::string explorer =
+        "\r\n[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer]\r\n";
+    for (const auto& [stored, status] : {std::pair{"ff,00,00,00", 0}, {"fe,00,00,00", 2}}) {
+        writeFile(registry_, std::string(kTestRegistry) + explorer + "\"AltColor\"=hex:" + stored + "\r\n");
+        EXPECT_EQ(kmctl({"apply", "69"}).status, status) << stored;
+    }
+}
+
+TEST_F(ApplyTest, SaysWhatWasAndWhatWasNotWritten) {
+    writeFile(registry_, withChange(kTestRegistry, "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Comm", "[HKEY_USERS\\x"));
+    const KmctlResult part = kmctl({"apply", "8", "1021=#1", "1022=#1"});
+    EXPECT_EQ(part.status, 0);
+    EXPECT_EQ(part.out, "Enable Command Completion (8): applied in part\nwritten: HKEY_CURRENT_USER\\Software\\Micro"
+                        "soft\\Command Processor, value \"CompletionChar\"\n" + registry_ + ": written\n");
+    EXPECT_EQ(part.err, "kmctl: not written: HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Command Processor: "
+                        "there is no such key\n");
+    writeFile(registry_, "REGEDIT4\r\n");
+    EXPECT_TRUE(has(kmctl({"apply", "8", "1021=#1"}).out, "(8): nothing written\n"));
+    EXPECT_EQ(kmctl({"apply", "8", "1021=#1"}).status, 0);
+    EXPECT_TRUE(has(kmctl({"apply", "7"}).out, "(7): nothing to write\n")) << "no row is selected";
+}
+
+struct MemoryMember {
+    MemoryRegistry memory;
+};
+class JournalledRegistry final : private MemoryMember, public WriteJournal {
+public:
+    JournalledRegistry() : WriteJournal(memory) {}
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Journalled, RegistryBehaviour, JournalledRegistry);
+
+// What the .reg files that kmctl reads never do: refuse.
+TEST(ApplyReport, DeniedWritesAreFailuresUnlessDoneInAnotherWay) {
+    MemoryRegistry memory;
+    WriteJournal journal(memory);
+    RegistryHandle root;
+    RegistryHandle key;
+    RegistryHandle below;
+    ASSERT_EQ(memory.connect(Root::LocalMachine, root), Status::Success);
+    ASSERT_EQ(memory.createKey(root, "Parent\\Child", key), Status::Success);
+    ASSERT_EQ(journal.connect(Root::LocalMachine, root), Status::Success);
+    ignoreFailure(journal.openKey(root, "new", key));
+    EXPECT_EQ(journal.createKey(root, "New", key), Status::Success);
+    EXPECT_EQ(journal.openKey(key, "one of many", below), Status::FileNotFound);
+    EXPECT_EQ(journal.setValue(key, "a", ValueType::Sz, {}), Status::Success);
+    EXPECT_EQ(journal.deleteValue(root, "gone", "b"), Status::FileNotFound);
+    EXPECT_EQ(journal.deleteKey(root, "Parent"), Status::AccessDenied);
+    const ApplyReport fine = reportOf(journal.attempts());
+    EXPECT_EQ(fine.written, std::vector<std::string>{"HKEY_LOCAL_MACHINE\\New, value \"a\""});
+    EXPECT_EQ(fine.notWritten,
+              std::vector<std::string>{"HKEY_LOCAL_MACHINE\\Parent: the key stays because it has subkeys"});
+    EXPECT_FALSE(fine.failed);
+    journal.clear();
+    memory.deny(Root::LocalMachine, "Parent");
+    memory.deny(Root::Users, "");
+    EXPECT_EQ(journal.openKey(root, "Parent\\Child", below), Status::AccessDenied);
+    EXPECT_EQ(journal.setValue(below, "c", ValueType::Sz, {}), Status::InvalidHandle);
+    EXPECT_EQ(journal.connect(Root::Users, below), Status::AccessDenied);
+    const ApplyReport denied = reportOf(journal.attempts());
+    EXPECT_EQ(denied.notWritten, (std::vector<std::string>{"HKEY_LOCAL_MACHINE\\Parent\\Child: access is denied",
+                                                           "HKEY_USERS: access is denied"}));
+    EXPECT_TRUE(denied.failed);
+    EXPECT_EQ(denied.summary(), "nothing written");
 }
 
 TEST_F(ApplyTest, BrokenFilesAreNotWritten) {

@@ -67,7 +67,6 @@ TEST(CommandLine, WrongUsageIsNamed) {
              {{"show", "11", "--all"}, "--all belongs to list"},
              {{"list", "--language=x"}, "--language needs --program-folder, where the language files are"},
              {{"list", "--windows", "xp"}, "--windows needs --registry, the file of that system"},
-             {{"list", "--\x1b[31m\n"}, "there is no option \"--?[31m?\""},
              {{"check-skin", ""}, "check-skin needs a file: a skin or a splash"},
              {{"check-skin", "a", "--registry=x"}, "--registry does not belong to check-skin"},
              {{"list", "--registry=x", "--windows=XP"},

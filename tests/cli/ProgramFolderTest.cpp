@@ -139,6 +139,12 @@ TEST_F(ProgramFolderTest, TheUsersLanguageIsUsedOnlyWithAFolderThatIsThere) {
     EXPECT_TRUE(kmctl({"show", "11"}).out.starts_with("Quick Edit the Command Prompt (11)\n"));
     EXPECT_TRUE(inFolder({"show", "11", "--language=English"}).out.starts_with("Quick Edit"));
     EXPECT_EQ(kmctl({"show", "11", "--program-folder", folder_.file("none")}).status, 2);
+    writeFile(program_ + "/x.ini", "[1004]\r\n112=No\r\n");
+    for (const char* wrong : {"Nederlands", "..\\x", "../x", "..", "C:x", "Deutsch.ini"}) {
+        const KmctlResult result = inFolder({"show", "11", "--language", wrong});
+        EXPECT_EQ(result.status, 2) << wrong;
+        EXPECT_TRUE(has(result.err, "; there are: English, Deutsch\n")) << result.err;
+    }
 }
 
 }  // namespace

@@ -47,15 +47,24 @@ TEST_F(ShowTest, JsonHoldsEveryControlOfTheTemplate) {
 }
 
 TEST_F(ShowTest, TextsOfTheRegistryCannotBreakTheOutput) {
-    // A quotation mark, an escape, a tabulator and a letter beyond ASCII, as 8-bit text in the file.
-    writeFile(registry_, withChange(kTestRegistry, "C:\\\\start.bat", "\\\"\x1b[2J\t\xfc"));
-    EXPECT_TRUE(has(controlOf(json({"show", "12"}), 1015), "\"text\":\"\\\"\\u001b[2J\\t\u00fc\""));
+    // A quotation mark, an escape, a tabulator, a C1 control and a letter beyond ASCII, as 8-bit text in the file.
+    writeFile(registry_, withChange(kTestRegistry, "C:\\\\start.bat", "\\\"\x1b[2J\t\x81\xfc"));
+    EXPECT_TRUE(has(controlOf(json({"show", "12"}), 1015), "\"text\":\"\\\"\\u001b[2J\\t\\u0081\u00fc\""));
+    const std::string shown = kmctl({"show", "12"}).out;
+    EXPECT_TRUE(has(shown, "[\"\\x1b[2J\\x09\\u0081")) << shown;
+}
+
+TEST_F(ShowTest, MessagesAndNamesCannotBreakTheOutput) {
+    const KmctlResult wrong = runKmctl({"list", "--\x1b[31m\n\xff"});
 #ifdef _WIN32
-    const char* printed = "[\"?[2J?\xfc]";
+    EXPECT_EQ(wrong.err, "kmctl: there is no option \"--\\x1b[31m\\x0a\xff\"\nkmctl --help tells more\n");
 #else
-    const char* printed = "[\"?[2J?\u00fc]";
+    EXPECT_EQ(wrong.err, "kmctl: there is no option \"--\\x1b[31m\\x0a\\xff\"\nkmctl --help tells more\n");
+    const std::string odd = folder_.file("a\n\x1b[2J\u009b\u202e\xc3\x28\u00fc.reg");
+    writeFile(odd, kTestRegistry);
+    EXPECT_TRUE(has(runKmctl({"--registry", odd, "apply", "11", "1013=0"}).out,
+                    "a\\x0a\\x1b[2J\\u009b\\u202e\\xc3(\u00fc.reg: nothing in it has changed\n"));
 #endif
-    EXPECT_TRUE(has(kmctl({"show", "12"}).out, printed));
 }
 
 TEST_F(ShowTest, EveryItemOfTheSampleCanBeShown) {

@@ -1,9 +1,10 @@
-// The files are read in the same way as by the program.
-#include "cli/CheckSkin.h"
+// check-skin: what is wrong with a skin, for the people who make one. The files are read as the program reads them.
+#include "cli/Commands.h"
 
 #include "cli/HostText.h"
+#include "cli/InputFile.h"
 #include "cli/Json.h"
-#include "cli/RegFileStore.h"
+#include "cli/SafeText.h"
 #include "skin/SkinFile.h"
 #include "skin/SkinFolder.h"
 #include "skin/SkinText.h"
@@ -47,8 +48,7 @@ Checked readAsSplash(const std::string& name, const std::string& text, const Rea
                         " pixels"};
 }
 
-std::string problemsAsJson(const std::vector<SkinProblem>& problems) {
-    JsonWriter json;
+void writeProblems(JsonWriter& json, const std::vector<SkinProblem>& problems) {
     json.beginObject();
     json.name("problems");
     json.beginArray();
@@ -64,16 +64,14 @@ std::string problemsAsJson(const std::vector<SkinProblem>& problems) {
     }
     json.endArray();
     json.endObject();
-    return json.json() + '\n';
 }
 
 }  // namespace
 
-ExitStatus checkSkin(const CommandLine& options, std::string& out, std::string& err) {
+ExitStatus checkSkinCommand(const CommandLine& options, Output& output) {
     std::string text;
     if (const std::optional<std::string> reason = readInputFile(options.skinFile, text)) {
-        err += "kmctl: " + options.skinFile + ": " + *reason + '\n';
-        return ExitStatus::WrongUsage;
+        return output.fail(unreadable(options.skinFile + ": " + *reason));
     }
     const SkinFolder folder(options.skinFile);
     const std::string& name = folder.fileName();
@@ -81,12 +79,15 @@ ExitStatus checkSkin(const CommandLine& options, std::string& out, std::string& 
     const bool isSplash = name.size() >= 4 && equalIgnoringCase(std::string_view(name).substr(name.size() - 4), ".spl");
     const Checked checked = isSplash ? readAsSplash(name, text, read) : readAsSkin(name, text, read);
     if (options.json) {
-        out += problemsAsJson(checked.problems);
+        JsonWriter json;
+        writeProblems(json, checked.problems);
+        output.print(json);
+    } else if (checked.problems.empty()) {
+        output.print(safeLine(name) + ": " + checked.whatItIs + '\n');
     } else {
         for (const SkinProblem& problem : checked.problems) {
-            err += describe(problem) + '\n';
+            output.complain(describe(problem));
         }
-        out += checked.problems.empty() ? name + ": " + checked.whatItIs + '\n' : "";
     }
     return checked.problems.empty() ? ExitStatus::Done : ExitStatus::Failed;
 }

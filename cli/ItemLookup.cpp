@@ -1,0 +1,53 @@
+// By number, by exact title, by title.
+#include "cli/ItemLookup.h"
+
+#include "text/Codepage.h"
+
+#include <vector>
+
+namespace korvane {
+namespace {
+
+// Which items have that title, exactly or but for capital letters.
+std::vector<int> itemsTitled(const ItemTable& items, std::string_view title, bool exactly) {
+    const std::u16string wanted = upperCase(fromAnsi(title));
+    std::vector<int> found;
+    for (std::size_t n = 0; n < items.size(); ++n) {
+        if (exactly ? items[n].title == title : upperCase(fromAnsi(items[n].title)) == wanted) {
+            found.push_back(items[n].id);
+        }
+    }
+    return found;
+}
+
+}  // namespace
+
+std::optional<Problem> findItem(const Session& session, const std::string& argument, int& item) {
+    const ItemTable& items = session.items();
+    if (const std::optional<int> number = wholeNumber(argument)) {
+        item = *number;
+        return static_cast<std::size_t>(item) < items.size()
+                   ? std::nullopt
+                   : std::optional(wrongUsage("there is no item " + argument + ": the last one is " +
+                                              std::to_string(items.size() - 1)));
+    }
+    const std::optional<std::string> title = fromArgument(argument, session.encoding());
+    std::vector<int> found = title ? itemsTitled(items, *title, true) : std::vector<int>();
+    if (title && found.empty()) {
+        found = itemsTitled(items, *title, false);
+    }
+    if (found.size() == 1) {
+        item = found.front();
+        return std::nullopt;
+    }
+    std::string message = "no item has the title " + quotedForMessage(argument);
+    if (!found.empty()) {
+        message = quotedForMessage(argument) + " is the title of several items:";
+        for (const int each : found) {
+            message += ' ' + std::to_string(each);
+        }
+    }
+    return wrongUsage(message);
+}
+
+}  // namespace korvane
