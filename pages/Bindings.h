@@ -63,7 +63,7 @@ struct StringFlag {
     std::string_view name;
     std::string_view checked = "1";
     std::string_view cleared = "0";
-    bool clearedDeletes = false;
+    bool clearedDeletes = false;      // by the key's path, which is neither opened nor made
     bool checkedWhenPresent = false;  // whatever the value holds
     Compare compare = Compare::Exact;
     ValueType type = ValueType::Sz;

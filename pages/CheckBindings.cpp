@@ -83,14 +83,11 @@ void show(PageContext& context, int control, const StringFlag& flag) {
 }
 
 void apply(PageContext& context, int control, const StringFlag& flag, WriteRound round) {
-    const OpenedKey key = context.openForWriting(flag.key.writtenIn(round));
-    if (!key) {
-        return;
-    }
+    const KeyPath* path = flag.key.writtenIn(round);
     const bool checked = context.checked(control);
-    if (!checked && flag.clearedDeletes) {
-        removeFrom(context, key, flag.name);
-    } else {
+    if (path != nullptr && !checked && flag.clearedDeletes) {
+        context.remove(*path, flag.name);
+    } else if (const OpenedKey key = context.openForWriting(path)) {
         writeText(context.platform.registry, key, flag.name, checked ? flag.checked : flag.cleared, flag.type);
     }
 }

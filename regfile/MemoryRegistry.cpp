@@ -60,6 +60,9 @@ Status MemoryRegistry::openKey(const RegistryHandle& parent, std::string_view pa
     if (const Status status = findKey(parent, widen(path), found); status != Status::Success) {
         return status;
     }
+    if (!limited_.empty() && limited_.contains(upperPathOf(*found))) {
+        return Status::AccessDenied;
+    }
     key = makeHandle(std::move(found));
     return Status::Success;
 }
@@ -68,6 +71,12 @@ Status MemoryRegistry::createKey(const RegistryHandle& parent, std::string_view 
     const std::u16string widePath = widen(path);
     std::shared_ptr<RegistryKey> start;
     if (const Status status = startOf(parent, widePath, start); status != Status::Success) {
+        return status;
+    }
+    if (RegistryTree::find(start, widePath) != nullptr) {
+        return openKey(parent, path, key);
+    }
+    if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
     key = makeHandle(RegistryTree::create(std::move(start), widePath));
@@ -109,6 +118,9 @@ Status MemoryRegistry::setValue(const RegistryHandle& key, std::string_view name
     if (wideName.size() > kMaxValueName) {
         return Status::InvalidParameter;
     }
+    if (const Status status = countChange(); status != Status::Success) {
+        return status;
+    }
     const auto number = static_cast<std::uint32_t>(type);
     found->setValue(wideName, number,
                     holdsText(number) ? textToData(data) : std::vector<std::byte>(data.begin(), data.end()));
@@ -122,7 +134,15 @@ Status MemoryRegistry::deleteValue(const RegistryHandle& key, std::string_view s
     if (status != Status::Success) {
         return status;
     }
-    return found->removeValue(widen(name)) ? Status::Success : Status::FileNotFound;
+    const std::u16string wideName = widen(name);
+    if (found->findValue(wideName) == nullptr) {
+        return Status::FileNotFound;
+    }
+    if (const Status refused = countChange(); refused != Status::Success) {
+        return refused;
+    }
+    found->removeValue(wideName);
+    return Status::Success;
 }
 
 Status MemoryRegistry::deleteKey(const RegistryHandle& parent, std::string_view path) {
@@ -132,6 +152,9 @@ Status MemoryRegistry::deleteKey(const RegistryHandle& parent, std::string_view 
     }
     if (found->parent() == nullptr || !found->subkeys().empty()) {
         return Status::AccessDenied;
+    }
+    if (const Status status = countChange(); status != Status::Success) {
+        return status;
     }
     found->parent()->removeSubkey(found->name());
     return Status::Success;
@@ -148,6 +171,9 @@ Status MemoryRegistry::deleteTree(const RegistryHandle& parent, std::string_view
     }
     if (holdsDenied(upperPathOf(*found))) {
         return Status::AccessDenied;
+    }
+    if (const Status status = countChange(); status != Status::Success) {
+        return status;
     }
     found->parent()->removeSubkey(found->name());
     return Status::Success;
@@ -225,6 +251,27 @@ Status MemoryRegistry::findKey(const RegistryHandle& handle, std::u16string_view
 RegistryHandle MemoryRegistry::makeHandle(std::shared_ptr<RegistryKey> key) {
     handles_.emplace(++lastHandle_, std::move(key));
     return {*this, lastHandle_};
+}
+
+void MemoryRegistry::denyFullAccess(Root root, std::string_view path) {
+    limited_.insert(joinUpper(upperPathOf(*tree_.root(root)), widen(path)));
+}
+
+void MemoryRegistry::allowAll() {
+    denied_.clear();
+    limited_.clear();
+    changesLeft_.reset();
+}
+
+Status MemoryRegistry::countChange() {
+    if (!changesLeft_) {
+        return Status::Success;
+    }
+    if (*changesLeft_ == 0) {
+        return Status::AccessDenied;
+    }
+    --*changesLeft_;
+    return Status::Success;
 }
 
 bool MemoryRegistry::isDenied(const std::u16string& path) const {

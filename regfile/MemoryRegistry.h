@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -40,8 +41,13 @@ public:
     // From now on opening, creating and deleting the key, or anything below it, answers AccessDenied; with an empty
     // path so does connecting to the root. The key need not exist. Handles that are open already keep working.
     void deny(Root root, std::string_view path);
+    // So many more changes are made; each one after them answers AccessDenied, as in a hive whose quota is used up.
+    void denyChangesAfter(std::size_t count) { changesLeft_ = count; }
+    // From now on the key grants less than full access: it cannot be opened, but a value of it can be deleted by the
+    // key's path, which asks for no more than it needs. The key need not exist.
+    void denyFullAccess(Root root, std::string_view path);
     // Takes back every deny.
-    void allowAll() { denied_.clear(); }
+    void allowAll();
 
     // How many handles are open: 0 when all that was opened has been closed.
     std::size_t openHandles() const { return handles_.size(); }
@@ -61,11 +67,15 @@ private:
     RegistryHandle makeHandle(std::shared_ptr<RegistryKey> key);
     bool isDenied(const std::u16string& path) const;
     bool holdsDenied(const std::u16string& path) const;
+    // Asked just before each change: counts it, or refuses it.
+    Status countChange();
 
     RegistryTree tree_;
     std::map<std::uintptr_t, std::shared_ptr<RegistryKey>> handles_;
     std::uintptr_t lastHandle_ = 0;
     std::set<std::u16string, std::less<>> denied_;  // full paths in upper case, from the root's name on
+    std::set<std::u16string, std::less<>> limited_;  // the same, of denyFullAccess
+    std::optional<std::size_t> changesLeft_;
 };
 
 }  // namespace korvane

@@ -48,7 +48,7 @@ void showAutoLogin(PageContext& context) {
 
 void applyAutoLogin(PageContext& context) {
     applyCheck(context, IDC_CHECK1, kAutoLoginBoxes[0].binding);
-    for (std::size_t i = 0; i < std::size(kAutoLoginFields); ++i) {
+    for (std::size_t i = std::size(kAutoLoginFields); i-- > 0;) {  // the domain first
         applyField(context, fieldControls(context.tweak, i).edit, kAutoLoginFields[i].binding);
     }
     if (context.checked(IDC_CHECK2)) {

@@ -129,6 +129,7 @@ TEST(TweaksDocument, TellsEveryKeyAndValueThatAnApplyTouches) {
     for (const std::string_view windows : {"98", "nt4", "2000", "xp"}) {
         MemoryProgram program(sampleRegistry(), windows);
         ASSERT_TRUE(program.start());
+        std::string before = program.registryText();
         for (int id = 0; id < kItemCount; ++id) {
             const Tweak& tweak = *findTweak(id);
             const bool looksAtVersion = tweak.apply != nullptr || std::ranges::any_of(tweak.boxes, [](const CheckBox& box) {
@@ -136,11 +137,12 @@ TEST(TweaksDocument, TellsEveryKeyAndValueThatAnApplyTouches) {
                                         });
             const bool isTried = tweak.hasApply() && (windows == "xp" || looksAtVersion);
             for (int step = 0; isTried && step < 4; ++step) {
-                const std::string before = program.registryText();
                 program.select(id);
                 change(program, step);
                 ASSERT_TRUE(program.apply());
-                const std::string changes = registryChanges(before, program.registryText());
+                std::string after = program.registryText();
+                const std::string changes = registryChanges(before, after);
+                before = std::move(after);
                 for (std::size_t at = 0; at < changes.size(); at = changes.find('\n', at) + 1) {
                     expectTold(tweak, parse(changes.substr(at, changes.find('\n', at) - at)));
                     ++touched;

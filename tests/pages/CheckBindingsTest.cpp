@@ -144,16 +144,6 @@ TEST(CheckBindings, ASecondKeyIsWrittenLikeTheFirstButNotRead) {
     EXPECT_EQ(firstDenied.applied(true), stateOf(std::string(kNothingStored) + second + "00,00,00,00"));
 }
 
-TEST(CheckBindings, AKeyMayLieElsewhereOnSomeVersions) {
-    const KeyPath either{
-        .root = Root::LocalMachine, .path = "Nt", .otherOn = kWindows9x, .otherPath = "Old", .otherCreated = "Made"};
-    OneBox page(DwordFlag{.key = either, .name = "V", .clearedDeletesByPath = true}, "[HKLM\\Nt]\n[HKLM\\Old]");
-    EXPECT_EQ(page.applied(true), stateOf("[HKLM\\Nt]\n\"V\"=dword:1\n[HKLM\\Old]"));
-    page.runOn("98");
-    EXPECT_EQ(page.applied(true), stateOf("[HKLM\\Nt]\n\"V\"=dword:1\n[HKLM\\Old\\Made]\n\"V\"=dword:1"));
-    EXPECT_EQ(page.applied(false), stateOf("[HKLM\\Nt]\n\"V\"=dword:1\n[HKLM\\Old\\Made]"));
-}
-
 TEST(CheckBindings, KeysAreMadeAsFarAsTheRowSays) {
     const CheckBinding policy = PolicyDwordFlag({Root::LocalMachine, "Software\\Policies\\P"}, "V");
     EXPECT_EQ(OneBox(policy).applied(false), stateOf("[HKLM\\Software\\Policies\\P]\n\"V\"=dword:0"));
@@ -161,7 +151,7 @@ TEST(CheckBindings, KeysAreMadeAsFarAsTheRowSays) {
     EXPECT_EQ(OneBox(below).applied(true), "");
     EXPECT_EQ(OneBox(below, "[HKCU\\Software]").applied(true), stateOf("[HKCU\\Software\\Policies\\P]\n\"V\"=dword:1"));
     // A made key stays, even where a cleared box then only deletes.
-    const CheckBinding deleting = StringFlag{.key = {Root::CurrentUser, "A", "B"}, .name = "V", .clearedDeletes = true};
+    const CheckBinding deleting = DwordFlag{.key = {Root::CurrentUser, "A", "B"}, .name = "V", .clearedDeletes = true};
     EXPECT_EQ(OneBox(deleting, "[HKCU\\A]").applied(false), stateOf("[HKCU\\A\\B]"));
     // Deleting by path makes no key.
     const CheckBinding byPath = DwordFlag{.key = {Root::Users, "", "New"}, .name = "V", .clearedDeletesByPath = true};
@@ -169,30 +159,6 @@ TEST(CheckBindings, KeysAreMadeAsFarAsTheRowSays) {
     OneBox denied(below, "[HKCU\\Software]");
     denied.registry.deny(Root::CurrentUser, "Software\\Policies\\P");
     EXPECT_EQ(denied.applied(true), stateOf("[HKCU\\Software]"));
-}
-
-TEST(SubkeyFlags, TheSubkeyIsShownMadeAndDeleted) {
-    constexpr SubkeyFlag kThere{.parent = kKey, .name = "Sub"};
-    constexpr SubkeyFlag kGone{.parent = kKey, .name = "Sub", .checkedWhenAbsent = true, .deletesTree = true};
-    constexpr std::string_view kParent = "[HKCU\\Software\\Invented]";
-    constexpr std::string_view kSub = "[HKCU\\Software\\Invented\\Sub]";
-    constexpr std::string_view kDeep = "[HKCU\\Software\\Invented\\Sub\\Deep]";
-    EXPECT_TRUE(OneBox(kThere, kSub).shown());
-    EXPECT_FALSE(OneBox(kGone, kSub).shown());
-    EXPECT_EQ(OneBox(kThere, kParent).applied(true), stateOf(kSub));
-    EXPECT_EQ(OneBox(kThere, kSub).applied(false), stateOf(kParent));
-    EXPECT_EQ(OneBox(kThere, kDeep).applied(false), stateOf(kDeep));
-    EXPECT_EQ(OneBox(kGone, kDeep).applied(true), stateOf(kParent));
-    for (const SubkeyFlag& flag : {kThere, kGone}) {
-        for (const Obstacle obstacle : kNothingOpens) {
-            OneBox page(flag, {}, Stamp::WhenOpen);
-            putInTheWay(page, obstacle, "01");
-            const std::string before = page.state();
-            EXPECT_EQ(page.shown(), flag.checkedWhenAbsent);
-            EXPECT_EQ(page.applied(!flag.checkedWhenAbsent), before);
-            EXPECT_EQ(page.events, "");
-        }
-    }
 }
 
 // ---- ScopePair
@@ -229,18 +195,6 @@ TEST(ScopePairs, TheCurrentUserIsWrittenFirstAndEachRootStampedJustBeforeItsWrit
     ASSERT_EQ(page.stamps.size(), 2U);
     EXPECT_EQ(page.stamps[0].state, stateOf(pairState('1', '0')));
     EXPECT_EQ(page.stamps[1].state, stateOf(pairState('0', '0')));
-}
-
-TEST(ScopePairs, ADeniedRootDoesNotKeepTheOtherFromBeingReadAndWritten) {
-    for (const Stamp stamp : {Stamp::BeforeOpening, Stamp::WhenOpen}) {
-        for (const Root denied : {Root::LocalMachine, Root::CurrentUser}) {
-            Pair page(pairState('1', '0'), stamp);
-            page.registry.deny(denied, "");
-            EXPECT_EQ(page.clickBothAndApply(),
-                      stateOf(denied == Root::LocalMachine ? pairState('0', '0') : pairState('1', '1')));
-            EXPECT_EQ(page.events, "stamp ");
-        }
-    }
 }
 
 }  // namespace

@@ -88,22 +88,6 @@ TEST(ChoiceBindings, ApplyTheEntryOrDoWithoutASelectionWhatTheRowSays) {
     EXPECT_EQ(OneChoice(below).applied(0), "");
 }
 
-TEST(ChoiceBindings, ARangeOffersItsNumbers) {
-    const DwordChoice number{.key = kKey, .name = "V", .range = {5, 3600}, .initial = 1, .unknown = 0};
-    OneChoice page(number, stored("dword:e10"));
-    EXPECT_EQ(page.shown(), 3595);
-    EXPECT_EQ(page.dialog(Page::Combos).comboCount(IDC_COMBO1), 3596);
-    EXPECT_EQ(page.applied(2), stateOf(stored("dword:7")));
-    EXPECT_EQ(page.applied(kNoSelection), stateOf(stored("dword:ffffffff")));
-    for (const char* outside : {"dword:4", "dword:e11", "dword:80000005"}) {
-        EXPECT_EQ(OneChoice(number, stored(outside)).shown(), 0) << outside;
-    }
-    const StringChoice text{.key = kKey, .name = "V", .range = {0, 50}, .initial = 10};
-    EXPECT_EQ(OneChoice(text, stored("\" 7 logons\"")).shown(), 7);
-    EXPECT_EQ(OneChoice(text, stored("\"51\"")).shown(), kNoSelection);
-    EXPECT_EQ(OneChoice(text, kNothingStored).applied(50), stateOf(stored("\"50\"")));
-}
-
 TEST(ColourBindings, ColoursAreShownAndWrittenAsTextAndAsBytes) {
     struct Case {
         const char* name;

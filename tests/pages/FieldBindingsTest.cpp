@@ -94,16 +94,6 @@ TEST(FieldBindings, FoldersAreShownWrittenOutAndStoredAsVariables) {
     EXPECT_EQ(user.shown(), "%USERPROFILE%\\C");
 }
 
-TEST(FieldBindings, QuotesAndSuffixesAreTakenOffAndPutOn) {
-    const StringValue unquoted{.key = kKey, .name = "V", .withoutQuotes = true};
-    EXPECT_EQ(OneField(unquoted, stored("\"x\"")).applied("\"\""), stateOf(kNothingStored));
-    const StringValue suffixed{.key = kKey, .name = "V", .suffix = " -p %ld -g", .suffixStart = " -p %ld"};
-    EXPECT_EQ(OneField(suffixed, stored("\"dbg -p %ld x -p %ld\"")).shown(), "dbg");
-    EXPECT_EQ(OneField(suffixed, kNothingStored).applied("dbg"), stateOf(stored("\"dbg -p %ld -g\"")));
-    // An empty text is still empty.
-    EXPECT_EQ(OneField(suffixed, stored("\"dbg -p %ld -g\"")).applied(""), stateOf(kNothingStored));
-}
-
 TEST(TextMatching, DecimalNumbersAreReadAsTheCLibraryReadsThem) {
     const std::pair<std::string_view, int> cases[] = {
         {" \t\n\v\f\r+12x", 12},

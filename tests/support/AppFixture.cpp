@@ -82,6 +82,18 @@ std::string registryChanges(std::string_view before, std::string_view after) {
     if (before == after) {
         return {};
     }
+    // Only the keys between the first difference and the last: the registries are long and the changes few.
+    const auto [first, firstAfter] = std::ranges::mismatch(before, after);
+    const std::size_t start = before.substr(0, static_cast<std::size_t>(first - before.begin())).rfind("\n[");
+    const std::size_t common = start == std::string_view::npos ? 0 : start + 1;
+    before.remove_prefix(common);
+    after.remove_prefix(common);
+    const auto last = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend()).first;
+    const std::size_t end = before.find("\n[", static_cast<std::size_t>(before.rend() - last));
+    if (end != std::string_view::npos) {
+        after.remove_suffix(before.size() - end);
+        before.remove_suffix(before.size() - end);
+    }
     const std::set<std::string> old = linesWithKeys(before);
     const std::set<std::string> now = linesWithKeys(after);
     std::string changes;
