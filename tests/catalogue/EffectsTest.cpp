@@ -190,7 +190,7 @@ void Effects::checkShows() {
         open(kNoneMissing, &EffectPair::isShown, n);
         for (const EffectLine* line : shown_) {
             if (const EffectPair* pair = pairOf(*line, &EffectPair::isShown, n)) {
-                EXPECT_EQ(stateOf(line->control), pair->state) << line->control << " shows " << pair->data.bytes;
+                EXPECT_EQ(stateOf(line->control), pair->state) << line->control << " shows " << line->name;
             }
         }
         pressAsWritten();
