@@ -1,5 +1,5 @@
-// A catalogue module: one of the eleven groups of consecutive ItemIds, with the
-// show and apply routines of its items.
+// A catalogue module: one of the eleven groups of the catalogue, with the show
+// and apply routines of its items.
 #pragma once
 
 #include "catalogue/Catalogue.h"
@@ -10,17 +10,16 @@ namespace korvane {
 class CCatalogModule {
 public:
     CCatalogModule(const CatalogueGroup& group, PageHost& host, Platform& platform)
-        : first_(group.first), last_(group.last), host_(host), platform_(platform) {}
+        : group_(group), host_(host), platform_(platform) {}
 
-    bool owns(int id) const { return id >= first_ && id <= last_; }
+    bool owns(int id) const { return group_.owns(id); }
     // Shows the item's page; does nothing for an item without one.
     void Show(int id);
     // Applies the page that Show filled; does nothing for an item that cannot be applied.
     void Apply(int id);
 
 private:
-    int first_;
-    int last_;
+    const CatalogueGroup& group_;
     PageHost& host_;
     Platform& platform_;
 };

@@ -1,5 +1,4 @@
-// The whole catalogue: every item by its ItemId, in constant time, and the groups
-// of consecutive ItemIds, one for each catalogue module.
+// The whole catalogue: every record by its ItemId, in constant time, and the groups that the modules own.
 #pragma once
 
 #include "catalogue/Units.h"
@@ -10,19 +9,21 @@
 
 namespace korvane {
 
+// The records 0 to 310 stand in groups of consecutive ItemIds; later ones belong to the group of their unit.
 struct CatalogueGroup {
     std::string_view name;
-    int first;  // ItemIds, inclusive
-    int last;
     std::span<const Unit* const> units;
+
+    bool owns(int id) const;
 };
 
 std::span<const CatalogueGroup> catalogueGroups();
 
-// The ItemIds in a category's overview, from top to bottom: its own list, or else its child tweaks in the tree.
+// The ItemIds that a category's overview lists, from top to bottom: its own list, or the tweaks right below it in the
+// tree.
 std::vector<int> overviewItems(const Tweak& category);
 
-// Null for a number that is not an ItemId.
+// Null for a number that is no ItemId.
 const Tweak* findTweak(int id);
 
 }  // namespace korvane

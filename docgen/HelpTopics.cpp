@@ -53,8 +53,8 @@ void addGroupOutsideTree(std::vector<HelpTopic>& topics, const CatalogueGroup& g
                     .title = std::string(group.name) + ": Not in the Tree",
                     .items = {},
                     .inTree = false};
-    for (int id = group.first; id <= group.last; ++id) {
-        if (findTweak(id)->treeParent == kNoTreeRow) {
+    for (int id = 0; id < kItemCount; ++id) {
+        if (group.owns(id) && findTweak(id)->treeParent == kNoTreeRow) {
             topic.items.push_back(id);
         }
     }

@@ -150,8 +150,11 @@ void addTweak(std::string& document, const Tweak& tweak) {
 void addGroup(std::string& document, const CatalogueGroup& group) {
     document.append("## ").append(group.name).append("\n\n");
     std::string kept;
-    for (int id = group.first; id <= group.last; ++id) {
+    for (int id = 0; id < kItemCount; ++id) {
         const Tweak& tweak = *findTweak(id);
+        if (!group.owns(id)) {
+            continue;
+        }
         if (tweak.hasShow()) {
             addTweak(document, tweak);
         } else {

@@ -172,7 +172,4 @@ constexpr std::array<Choice, 2> ScopePairOfChoices(std::string_view currentUser,
     return {Choice{currentUser, binding}, Choice{allUsers, underLocalMachine(binding)}};
 }
 
-constexpr std::string_view kRestartOrLogOutNote =
-    "Note:\n\tYou may need to restart or log out of Windows for the change to take effect.";
-
 }  // namespace korvane

@@ -11,8 +11,5 @@ constexpr KeyPath kFileSystemExplorer{Root::CurrentUser, "Software\\Microsoft\\W
 constexpr KeyPath kFileSystemPolicies{Root::CurrentUser,
                                       "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
 
-constexpr std::string_view kRestartNote = "Note:\n\tRestart Windows for the change to take effect.";
-constexpr std::string_view kNoteWithSmallYou =
-    "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
 
 }  // namespace korvane

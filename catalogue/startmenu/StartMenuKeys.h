@@ -8,9 +8,6 @@ namespace korvane {
 constexpr KeyPath kShellPolicies{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer"};
 constexpr KeyPath kShellAdvanced{Root::CurrentUser, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"};
 
-// Intended: a small letter.
-constexpr std::string_view kShellNote =
-    "Note:\n\tyou may need to restart or log out of Windows for the change to take effect.";
 
 // Intended: the alert's text names Me, which this gate refuses.
 constexpr Gate kGate2000XpNamingMe{kWin2000 | kWinXP, Alert::Only2000MeXp};
