@@ -154,9 +154,7 @@ bool MemoryMainWindow::run(MainWindowHandler& handler) {
     handler_ = &handler;
     running_ = true;
     dialog_.show(true);
-    if (!handler.OnInitDialog() && !dialog_.result()) {
-        closePosted_ = true;
-    }
+    handler.OnInitDialog();
     settle();
     return running_;
 }

@@ -102,7 +102,9 @@ TEST(Lists, HaveTheirColumnsInPixels) {
         }
         const auto found = others.find(id);
         EXPECT_EQ(columns, found != others.end() ? found->second : "Name 295 Data Modified 99 ") << id;
-        overviews += columns.starts_with("Name") ? 1 : 0;
+        const bool isOverview = columns.starts_with("Name");
+        EXPECT_EQ(program.window.dialog().usable(IDC_APPLY), !isOverview) << id;
+        overviews += isOverview ? 1 : 0;
     }
     EXPECT_GE(overviews, 22);
 }
@@ -136,6 +138,25 @@ TEST(BrowseButtons, AskForAFileInQuotesOrForAFolder) {
         }
     }
     EXPECT_EQ(folders, (std::set{107, 255, 306, 307}));
+}
+
+// Only the box of the logon screen saver switches fields, and only those of two rows.
+TEST(CheckFields, AreSwitchedByTheBoxOfOneItem) {
+    MemoryProgram program;
+    ASSERT_TRUE(program.start());
+    for (int id = 0; id < kItemCount; ++id) {
+        program.select(id);
+        for (const int box : {IDC_CHECK2, IDC_CHECK1, IDC_CHECK1}) {
+            if (!program.shows(IDD_CHECK_FIELDS, box) || !program.click(box)) {
+                continue;
+            }
+            const bool on = id != 159 || program.page(IDD_CHECK_FIELDS).check(IDC_CHECK1) == 1;
+            for (const int control : {IDC_EDIT1, IDC_EDIT2, IDC_BROWSE1, IDC_EDIT3, IDC_BROWSE2, IDC_BROWSE3}) {
+                const bool switched = control == IDC_EDIT1 || control == IDC_EDIT2 || control == IDC_BROWSE1;
+                EXPECT_EQ(program.enabled(IDD_CHECK_FIELDS, control), on || !switched) << id << ' ' << control;
+            }
+        }
+    }
 }
 
 // ---- Languages

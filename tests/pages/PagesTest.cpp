@@ -1,78 +1,17 @@
-// What pages do on their own: the logon screen saver's box, the colour list, and where the controls stand.
-#include "pages/Pages.h"
-
+// The colour list, and where the controls of the pages stand.
 #include "pages/ColourCombo.h"
+
+#include "pages/PageLayout.h"
 #include "platform/memory/MemoryDialog.h"
 #include "res/ControlIds.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace korvane {
 namespace {
-
-class ScriptedHost final : public DialogHost {
-public:
-    bool switchesFields = false;
-
-    bool applySkinElement(DialogControls&, const SkinAssignment&) override { return true; }
-    void showSkinFailure() override {}
-    std::uint32_t randomSeed() override { return 1; }
-    bool boxEnablesFields() override { return switchesFields; }
-    std::string browse(int) override { return {}; }
-};
-
-// One page in its own dialog; every control is visible, as if a row used them all.
-class OnePage {
-public:
-    explicit OnePage(Page which)
-        : pages_(makePages(host)),
-          page(*pages_[static_cast<std::size_t>(which)]),
-          dialog(*findDialogTemplate(page.templateId())) {
-        dialog.setHandler(page);
-        dialog.show(true);
-        for (const int id : dialog.controlIds()) {
-            dialog.showControl(id, true);
-        }
-        DialogHandler& handler = page;
-        EXPECT_TRUE(handler.OnInitDialog(dialog));
-    }
-
-    ScriptedHost host;
-
-private:
-    std::vector<std::unique_ptr<CPage>> pages_;
-
-public:
-    CPage& page;
-    MemoryDialog dialog;
-};
-
-constexpr Page kPages[] = {Page::Category,   Page::Checks, Page::CheckFields, Page::CheckCombos, Page::CheckList,
-                           Page::PathFields, Page::Combos, Page::EditCombos,  Page::CheckCombo};
-
-TEST(LogonScreenSaver, ItsBoxSwitchesThreeControlsAndNoOtherItemsBoxDoes) {
-    OnePage page(Page::CheckFields);
-    const auto enabledAfterClick = [&page](bool switches, int box) {
-        page.host.switchesFields = switches;
-        EXPECT_TRUE(page.dialog.clickCheckBox(box));
-        std::string result;
-        for (const int id : {IDC_EDIT1, IDC_EDIT2, IDC_BROWSE1, IDC_EDIT3, IDC_BROWSE2, IDC_BROWSE3}) {
-            result += page.dialog.find(id)->enabled ? '1' : '0';
-        }
-        return result;
-    };
-    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "111111");
-    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK2), "111111");
-    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(false, IDC_CHECK1), "000111");
-    EXPECT_EQ(enabledAfterClick(true, IDC_CHECK1), "111111");
-}
 
 // ---- The colour list
 
@@ -102,9 +41,10 @@ constexpr std::string_view kColours =
     "40E0D0 Violet EE82EE Wheat F5DEB3 White FFFFFF WhiteSmoke F5F5F5 Yellow FFFF00 YellowGreen 9ACD32";
 
 TEST(ColourList, HasTheHundredAndFortyNamedColours) {
-    const MemoryControl combo = *OnePage(Page::CheckCombos).dialog.find(IDC_COLOUR_COMBO);
+    MemoryDialog page(*findDialogTemplate(IDD_CHECK_COMBOS));
+    CColourCombo(page, IDC_COLOUR_COMBO).FillColours();
     std::string shown;
-    for (const MemoryComboEntry& entry : combo.entries) {
+    for (const MemoryComboEntry& entry : page.find(IDC_COLOUR_COMBO)->entries) {
         char text[32];
         const Colour colour = entry.data;
         std::snprintf(text, sizeof text, " %02X%02X%02X", colour & 0xFF, colour >> 8 & 0xFF, colour >> 16);
@@ -114,22 +54,23 @@ TEST(ColourList, HasTheHundredAndFortyNamedColours) {
 }
 
 TEST(ColourList, IsBlackWithoutARowAndEndsWhereThereIsNoMoreSpace) {
-    OnePage page(Page::CheckCombos);
-    CColourCombo colours(page.dialog, IDC_COLOUR_COMBO);
-    page.dialog.selectComboEntry(IDC_COLOUR_COMBO, kNoSelection);
+    MemoryDialog page(*findDialogTemplate(IDD_CHECK_COMBOS));
+    CColourCombo colours(page, IDC_COLOUR_COMBO);
+    colours.FillColours();
     EXPECT_EQ(colours.GetSelectedColour(), rgb(0, 0, 0));
     // Filling again empties first.
-    page.dialog.limitComboSpace(IDC_COLOUR_COMBO, 3);
+    page.limitComboSpace(IDC_COLOUR_COMBO, 3);
     colours.FillColours();
     colours.SelectColour(rgb(255, 255, 255));
-    EXPECT_EQ(page.dialog.comboCount(IDC_COLOUR_COMBO), 3);
-    EXPECT_EQ(page.dialog.text(IDC_COLOUR_COMBO), "");
+    EXPECT_EQ(page.comboCount(IDC_COLOUR_COMBO), 3);
+    EXPECT_EQ(page.text(IDC_COLOUR_COMBO), "");
 }
 
 // ---- Templates
 
 TEST(PageTemplates, ControlsFitThePageAndShareAPlaceOnlyWhereTheyTakeTurns) {
-    for (const Page which : kPages) {
+    for (int index = 0; index < kPageCount; ++index) {
+        const auto which = static_cast<Page>(index);
         const DialogTemplate& found = *findDialogTemplate(layoutOf(which).templateId);
         for (const ControlTemplate& control : found.controls) {
             const bool drops = control.kind == ControlKind::Combo || control.kind == ControlKind::ColourCombo;

@@ -78,6 +78,18 @@ TEST_F(MemoryRegistryTest, ADeniedKeyRefusesItselfAndAllBelowItButNoNeighbour) {
     EXPECT_EQ(open("Software\\Locked\\Inner"), Status::Success);
 }
 
+// Letters beyond ASCII as well.
+TEST_F(MemoryRegistryTest, NamesAreFoundInAnyCase) {
+    const auto dumpOf = [](std::string_view keys) {
+        MemoryRegistry loaded;
+        EXPECT_FALSE(loadRegFile("Windows Registry Editor Version 5.00\n\n" + std::string(keys), loaded));
+        return dumpRegistry(loaded);
+    };
+    EXPECT_EQ(dumpOf("[HKLM\\\u00e4rger \u03c9\u03af \u044f\u0451]\n\"\u043f\u0440\"=dword:1\n"
+                     "[HKLM\\\u00c4RGER \u03a9\u038a \u042f\u0401]\n\"\u041f\u0420\"=dword:2\n"),
+              dumpOf("[HKLM\\\u00e4rger \u03c9\u03af \u044f\u0451]\n\"\u043f\u0440\"=dword:2\n"));
+}
+
 // Data without its terminating zero can only come from a file; a reader that takes the buffer for a C string is safe.
 TEST_F(MemoryRegistryTest, TextStoredWithoutZeroIsTerminatedInTheBufferWhenThereIsRoom) {
     ASSERT_FALSE(loadRegFile("REGEDIT4\n[HKLM]\n\"t\"=hex(1):61,62\n", registry));
