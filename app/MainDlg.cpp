@@ -139,7 +139,7 @@ void CMainDlg::setUpTree() {
     CTreeListCtrl& tree = window_.tree();
     tree.SetStyle(kTreeStyle);
     tree.SetImageList();
-    tree.InsertColumn(" ", kTreeColumnFormat, 0, -1, 0, 0);
+    tree.InsertColumn({.heading = " ", .format = kTreeColumnFormat});
     tree.SetColumnModify(0, 1);
     tree.SetColumnWidth(0, kTreeColumnWidth, 0, 0);
 }

@@ -17,42 +17,42 @@ namespace {
 
 struct Checked {
     std::string whatItIs{};  // when there is no problem
-    std::vector<SkinProblem> problems{};
+    std::vector<skin::SkinProblem> problems{};
 };
 
 std::string counted(std::size_t count, const std::string& what) {
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
 
-Checked readAsSkin(const std::string& name, const std::string& text, const ReadSkinFile& read) {
+Checked readAsSkin(const std::string& name, const std::string& text, const skin::ReadSkinFile& read) {
     std::size_t pictures = 0;
     const auto countingRead = [&](const std::string& picture) {
         ++pictures;
         return read(picture);
     };
-    SkinFile skin;
-    SkinProblem problem;
-    if (!skin.load(name, text, countingRead, problem) || !skin.problems().empty()) {
-        return {.problems = skin.problems()};
+    skin::SkinFile loaded;
+    skin::SkinProblem problem;
+    if (!loaded.load(name, text, countingRead, problem) || !loaded.problems().empty()) {
+        return {.problems = loaded.problems()};
     }
-    return {.whatItIs = "a skin of " + counted(skin.elementCount(), "element") + ", " + counted(pictures, "picture")};
+    return {.whatItIs = "a skin of " + counted(loaded.elementCount(), "element") + ", " + counted(pictures, "picture")};
 }
 
-Checked readAsSplash(const std::string& name, const std::string& text, const ReadSkinFile& read) {
-    Picture picture;
-    SkinProblem problem;
-    if (!readSplash(name, text, read, picture, problem)) {
+Checked readAsSplash(const std::string& name, const std::string& text, const skin::ReadSkinFile& read) {
+    skin::Picture picture;
+    skin::SkinProblem problem;
+    if (!skin::readSplash(name, text, read, picture, problem)) {
         return {.problems = {problem}};
     }
     return {.whatItIs = "a splash of " + std::to_string(picture.width) + " x " + std::to_string(picture.height) +
                         " pixels"};
 }
 
-void writeProblems(JsonWriter& json, const std::vector<SkinProblem>& problems) {
+void writeProblems(JsonWriter& json, const std::vector<skin::SkinProblem>& problems) {
     json.beginObject();
     json.name("problems");
     json.beginArray();
-    for (const SkinProblem& problem : problems) {
+    for (const skin::SkinProblem& problem : problems) {
         json.beginObject();
         json.name("file");
         json.text(fileNameToUtf8(problem.file));
@@ -73,9 +73,9 @@ ExitStatus checkSkinCommand(const CommandLine& options, Output& output) {
     if (const std::optional<std::string> reason = readInputFile(options.skinFile, text)) {
         return output.fail(unreadable(options.skinFile + ": " + *reason));
     }
-    const SkinFolder folder(options.skinFile);
+    const skin::SkinFolder folder(options.skinFile);
     const std::string& name = folder.fileName();
-    const ReadSkinFile read = folder.reader();
+    const skin::ReadSkinFile read = folder.reader();
     const bool isSplash = name.size() >= 4 && equalIgnoringCase(std::string_view(name).substr(name.size() - 4), ".spl");
     const Checked checked = isSplash ? readAsSplash(name, text, read) : readAsSkin(name, text, read);
     if (options.json) {
@@ -85,7 +85,7 @@ ExitStatus checkSkinCommand(const CommandLine& options, Output& output) {
     } else if (checked.problems.empty()) {
         output.print(safeLine(name) + ": " + checked.whatItIs + '\n');
     } else {
-        for (const SkinProblem& problem : checked.problems) {
+        for (const skin::SkinProblem& problem : checked.problems) {
             output.complain(describe(problem));
         }
     }

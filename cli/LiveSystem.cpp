@@ -2,8 +2,9 @@
 #include "cli/LiveSystem.h"
 
 #ifdef _WIN32
+#include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Registry.h"
-#include "platform/win32/Win32System.h"
+#include "platform/win32/Win32SystemInfo.h"
 #endif
 
 namespace korvane {

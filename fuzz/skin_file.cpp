@@ -23,13 +23,13 @@ std::string smallBitmap() {
     return file + std::string(72, '\x80');
 }
 
-void checkProblem(const korvane::SkinProblem& problem) {
+void checkProblem(const korvane::skin::SkinProblem& problem) {
     require(problem.file == "fuzz.skn" && problem.line >= 0 && !problem.reason.empty());
     require(problem.reason.size() < 300);
     require(std::ranges::all_of(problem.reason, [](char c) { return c >= ' ' && c <= '~'; }));
 }
 
-void checkLook(const korvane::ElementLook& look, bool isMain) {
+void checkLook(const korvane::skin::ElementLook& look, bool isMain) {
     const auto isLength = [](int length) { return length >= 0 && length <= 200; };
     require(isLength(look.radius) && isLength(look.borderWidth) && isLength(look.margins.left));
     require(isLength(look.margins.top) && isLength(look.margins.right) && isLength(look.margins.bottom));
@@ -52,19 +52,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(name.find_first_of("/\\:") == std::string::npos && name.find("..") == std::string::npos);
         return name == "p.bmp" ? std::optional(smallBitmap()) : std::nullopt;
     };
-    korvane::SkinFile skin;
-    korvane::SkinProblem problem;
+    korvane::skin::SkinFile skin;
+    korvane::skin::SkinProblem problem;
     const bool loaded = skin.load("fuzz.skn", text, read, problem);
     if (!loaded) {
         checkProblem(problem);
         require(!skin.problems().empty());
     }
-    for (const korvane::SkinProblem& each : skin.problems()) {
+    for (const korvane::skin::SkinProblem& each : skin.problems()) {
         checkProblem(each);
     }
     bool whole = loaded;
     for (const char* name : {"Main", "SubMain", "CheckBox", "Label", "Button", "Splitter", "FrameButton"}) {
-        const korvane::ElementLook* look = skin.element(name, problem);
+        const korvane::skin::ElementLook* look = skin.element(name, problem);
         whole = whole && look != nullptr;
         if (look == nullptr) {
             checkProblem(problem);

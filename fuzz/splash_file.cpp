@@ -26,9 +26,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         bitmap.replace(30, 24, 24, '\0');
         return name == "p.bmp" ? std::optional(bitmap) : std::nullopt;
     };
-    korvane::Picture picture;
-    korvane::SkinProblem problem;
-    if (korvane::readSplash("fuzz.spl", text, read, picture, problem)) {
+    korvane::skin::Picture picture;
+    korvane::skin::SkinProblem problem;
+    if (korvane::skin::readSplash("fuzz.spl", text, read, picture, problem)) {
         require(picture.width == 1 && picture.pixels.size() == 1 && problem.reason.empty());
     } else {
         require(picture.pixels.empty() && !problem.reason.empty() && problem.line >= 0);

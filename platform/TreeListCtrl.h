@@ -15,6 +15,15 @@ using CTreeListItem = std::uintptr_t;
 constexpr CTreeListItem kRootItem = 0;
 constexpr CTreeListItem kInsertLast = ~CTreeListItem{0};
 
+struct TreeColumn {
+    std::string_view heading;
+    std::uint32_t format = 0;
+    int width = 0;   // pixels
+    int image = -1;  // none
+    int subItem = 0;
+    int order = 0;
+};
+
 // A picture that the control owns and draws behind its rows.
 class BackgroundImage {
 public:
@@ -30,8 +39,7 @@ public:
 
     virtual void SetStyle(std::uint32_t style) = 0;
     virtual void SetImageList() = 0;  // the main window's image list
-    virtual void InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
-                              int order) = 0;
+    virtual void InsertColumn(const TreeColumn& column) = 0;
     virtual void SetColumnModify(int column, int modify) = 0;
     virtual void SetColumnWidth(int column, int width, int minimum, int maximum) = 0;
     virtual BackgroundImage& GetBGImage() = 0;

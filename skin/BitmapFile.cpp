@@ -1,5 +1,5 @@
-// The header is not trusted: sizes are checked against the limit and against the bytes that are there before anything
-// is allocated. Lengths are computed in 64 bits, so that none of them can wrap around.
+// Nothing in the header is trusted: sizes are checked against the limit and the length of the file before anything is
+// allocated, and lengths are computed in 64 bits, where none can overflow.
 #include "skin/BitmapFile.h"
 
 #include <algorithm>
@@ -8,15 +8,15 @@
 #include <utility>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr std::size_t kFileHeader = 14;
-constexpr std::uint32_t kOldInfoHeader = 12;  // 16-bit sizes, three bytes for each colour of the table
+constexpr std::uint32_t kOldInfoHeader = 12;  // BITMAPCOREHEADER: 16-bit sizes, three bytes per palette entry
 constexpr std::uint32_t kInfoHeader = 40;
 constexpr std::uint32_t kLongestInfoHeader = 124;
 constexpr std::uint32_t kUncompressed = 0;
-constexpr std::uint32_t kBitFields = 3;  // uncompressed too, with masks that say where the colours are
+constexpr std::uint32_t kBitFields = 3;  // uncompressed, with a mask for each colour
 constexpr Pixel kOpaque = 0xFF000000;
 constexpr Pixel kMagenta = 0xFFFF00FF;
 
@@ -40,7 +40,7 @@ class Reader {
 public:
     explicit Reader(std::string_view file) : file_(file) {}
 
-    // Every step answers what is wrong, or an empty text.
+    // Every step returns what is wrong, or an empty text.
     std::string read(Picture& picture) {
         std::string wrong = readHeader();
         if (wrong.empty()) {
@@ -105,8 +105,8 @@ private:
         return {};
     }
 
-    // Paint programs agree on a byte for each colour, not on the order of the four. In a header of the shortest form
-    // the masks follow it.
+    // Paint programs agree on one byte per colour, but not on the order of the bytes. A BITMAPINFOHEADER is followed by
+    // the masks, longer headers hold them in the same place.
     std::string readMasks() {
         if (compression_ == kUncompressed) {
             return {};
@@ -155,7 +155,7 @@ private:
 
     Pixel blueGreenRed(std::size_t at) const { return kOpaque | word(file_, at) | byteAt(file_, at + 2) << 16; }
 
-    // Rows are filled up to whole double words.
+    // Rows are padded to multiples of four bytes.
     std::string findRows() {
         rowSize_ = (static_cast<std::size_t>(picture_.width) * bits_ + 31) / 32 * 4;
         const std::uint64_t end = std::uint64_t{rowsAt_} + std::uint64_t{rowSize_} *
@@ -196,7 +196,7 @@ private:
         return (hasAlpha_ ? part(3) << 24 : kOpaque) | part(0) << 16 | part(1) << 8 | part(2);
     }
 
-    // Many programs leave the fourth byte at zero and mean an ordinary picture.
+    // Many programs leave the fourth byte 0 in an opaque picture.
     void makeOpaqueIfInvisible() {
         if (bits_ == 32 && std::ranges::all_of(picture_.pixels, [](Pixel pixel) { return pixel >> 24 == 0; })) {
             std::ranges::for_each(picture_.pixels, [](Pixel& pixel) { pixel |= kOpaque; });
@@ -221,4 +221,4 @@ private:
 
 std::string readBitmap(std::string_view file, Picture& picture) { return Reader(file).read(picture); }
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,11 +1,10 @@
-// How much of a pixel a shape covers follows from the pixel's distance to the
-// shape's edge.
+// How much of a pixel a shape covers follows from the distance of the pixel to the edge of the shape.
 #include "skin/Canvas.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr unsigned kWhole = 256;
@@ -20,7 +19,7 @@ Pixel mixChannel(Pixel under, Pixel over, unsigned weight, int shift) {
 
 float clampCoverage(float coverage) { return std::clamp(coverage, 0.0F, 1.0F); }
 
-// Of a pixel's middle from the edge of a box with round corners; negative inside.
+// The distance of a point from the edge of a box with round corners; negative inside.
 float distanceToBox(float x, float y, const Rect& box, float radius) {
     const float halfWidth = static_cast<float>(box.width()) / 2;
     const float halfHeight = static_cast<float>(box.height()) / 2;
@@ -47,14 +46,14 @@ Pixel rowColour(int y, int top, int height, Pixel first, Pixel last) {
     return mix(first, last, static_cast<unsigned>(row) * kWhole / static_cast<unsigned>(height - 1));
 }
 
-// Where a place of the area comes from in a line of the picture that has fixed ends: both in pixels.
+// Maps a pixel of the area to one of the picture, along one axis: both ends keep their size, the rest is stretched.
 class FixedEnds {
 public:
-    FixedEnds(int target, int source, int sourceFirst, int sourceLast, int scale)
+    FixedEnds(int target, int source, int sourceFirst, int sourceLast, int dpi)
         : source_(source), sourceFirst_(sourceFirst), sourceLast_(sourceLast) {
-        const int wantedFirst = sourceFirst * scale / 96;
-        const int wantedLast = sourceLast * scale / 96;
-        // An area that is smaller than both ends shows a part of each.
+        const int wantedFirst = sourceFirst * dpi / 96;
+        const int wantedLast = sourceLast * dpi / 96;
+        // An area smaller than both ends shows a part of each.
         const int wanted = wantedFirst + wantedLast;
         first_ = wanted <= target ? wantedFirst : target * wantedFirst / wanted;
         last_ = wanted <= target ? wantedLast : target - first_;
@@ -134,8 +133,6 @@ void Canvas::blend(int x, int y, Pixel colour, float coverage) {
     pixel = 0xFF000000 | mix(pixel, colour, static_cast<unsigned>(std::lround(opaque * kWhole)));
 }
 
-void Canvas::fill(const Rect& area, Pixel colour) { gradient(area, area, colour, colour); }
-
 void Canvas::gradient(const Rect& area, const Rect& whole, Pixel top, Pixel bottom) {
     const Rect part = inside(area);
     for (int y = part.top; y < part.bottom; ++y) {
@@ -188,19 +185,19 @@ void Canvas::stroke(std::span<const CanvasPoint> points, float thickness, Pixel 
     }
 }
 
-void Canvas::picture(const Rect& area, const Picture& picture, int firstRow, int rows, const SkinMargins& margins,
-                     int scale, int hue) {
-    const FixedEnds across(area.width(), picture.width, margins.left, margins.right, scale);
-    const FixedEnds down(area.height(), rows, margins.top, margins.bottom, scale);
+void Canvas::picture(const Rect& area, const PicturePaint& paint) {
+    const Picture& picture = paint.picture;
+    const FixedEnds across(area.width(), picture.width, paint.margins.left, paint.margins.right, paint.dpi);
+    const FixedEnds down(area.height(), paint.rows, paint.margins.top, paint.margins.bottom, paint.dpi);
     const Rect part = inside(area);
     for (int y = part.top; y < part.bottom; ++y) {
-        const std::ptrdiff_t row = firstRow + down.sourceOf(y - area.top);
+        const std::ptrdiff_t row = paint.firstRow + down.sourceOf(y - area.top);
         for (int x = part.left; x < part.right; ++x) {
             const std::ptrdiff_t column = across.sourceOf(x - area.left);
             const Pixel pixel = picture.pixels[static_cast<std::size_t>(row * picture.width + column)];
-            blend(x, y, turnHue(pixel, hue), 1);
+            blend(x, y, turnHue(pixel, paint.hue), 1);
         }
     }
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

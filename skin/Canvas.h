@@ -1,5 +1,5 @@
-// Drawing into pixels in memory, with smooth edges whatever the system can
-// draw itself: boxes with round corners and gradients, lines, pictures.
+// Draws into pixels in memory, with smooth edges on every Windows: boxes with round corners and gradients, lines,
+// pictures.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -8,11 +8,11 @@
 
 #include <span>
 
-namespace korvane {
+namespace korvane::skin {
 
-// `weight` of 256 parts of `over`, the rest of `under`; the alpha of `under` is kept.
+// `weight`/256 of `over`, the rest of `under`; keeps the alpha of `under`.
 Pixel mix(Pixel under, Pixel over, unsigned weight);
-// The colour turned by so many degrees on the colour circle; its alpha, saturation and lightness stay.
+// The colour turned by so many degrees on the colour circle; alpha, saturation and lightness stay.
 Pixel turnHue(Pixel colour, int degrees);
 
 struct BoxPaint {
@@ -24,6 +24,16 @@ struct BoxPaint {
     int radius = 0;  // pixels, of the outer edge of the corners
 };
 
+// Some rows of a picture, to be stretched over an area.
+struct PicturePaint {
+    const Picture& picture;
+    int firstRow = 0;
+    int rows = 0;
+    SkinMargins margins{};  // pixels of the picture: not stretched, but scaled to the resolution
+    int dpi = 96;
+    int hue = 0;  // degrees by which every colour is turned
+};
+
 struct CanvasPoint {
     float x;  // pixels; .5 is the middle of a pixel
     float y;
@@ -31,23 +41,19 @@ struct CanvasPoint {
 
 class Canvas {
 public:
-    // The pixels are borrowed: the top row first, without gaps. They become opaque wherever something is drawn.
+    // The pixels are borrowed: the top row first, without gaps. Whatever is drawn is opaque.
     Canvas(Pixel* pixels, int width, int height) : pixels_(pixels), width_(width), height_(height) {}
 
     int width() const { return width_; }
     int height() const { return height_; }
 
-    // All coordinates are pixels of this canvas; what lies outside it is cut off.
-    void fill(const Rect& area, Pixel colour);
-    // Rows of the area from `top` to `bottom`, as if the area were `whole`.
+    // All coordinates are pixels of this canvas; drawing is clipped to it.
+    // The part of a vertical gradient over `whole` that lies in the area.
     void gradient(const Rect& area, const Rect& whole, Pixel top, Pixel bottom);
     void box(const Rect& area, const BoxPaint& paint);
-    // A line through the points, with round ends.
+    // A polyline with round ends.
     void stroke(std::span<const CanvasPoint> points, float thickness, Pixel colour);
-    // The rows of the picture from `firstRow` on, `rows` of them, over the area: the margins, in pixels of the picture,
-    // keep their size times scale/96, what is between them is stretched. Every colour is turned by `hue` degrees.
-    void picture(const Rect& area, const Picture& picture, int firstRow, int rows, const SkinMargins& margins, int scale,
-                 int hue);
+    void picture(const Rect& area, const PicturePaint& paint);
 
 private:
     Rect inside(const Rect& area) const;
@@ -58,4 +64,4 @@ private:
     int height_;
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,11 +1,11 @@
-// Boxes and signs, in sizes that follow the resolution of the screen.
+// Boxes, check marks and the signs of the frame's buttons, scaled to the resolution of the screen.
 #include "skin/ElementPainter.h"
 
 #include "text/EqualIgnoringCase.h"
 
 #include <algorithm>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr int kUsualDpi = 96;
@@ -103,7 +103,12 @@ void ElementPainter::background(const Rect& area, const ElementLook& look, Contr
     const int rows = look.picture->height / look.pictureStates;
     const int wanted = static_cast<int>(state);
     const int shown = wanted < look.pictureStates ? wanted : 0;
-    canvas_.picture(area, *look.picture, shown * rows, rows, look.margins, palette_.dpi, palette_.hue);
+    canvas_.picture(area, {.picture = *look.picture,
+                           .firstRow = shown * rows,
+                           .rows = rows,
+                           .margins = look.margins,
+                           .dpi = palette_.dpi,
+                           .hue = palette_.hue});
 }
 
 void ElementPainter::surface(const Rect& area, const Rect& whole, const ElementLook& look, ControlState state) {
@@ -113,9 +118,9 @@ void ElementPainter::surface(const Rect& area, const Rect& whole, const ElementL
     canvas_.gradient(area, whole, palette_.of(fill.top), palette_.of(fill.bottom));
 }
 
-void ElementPainter::checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool ticked) {
+void ElementPainter::checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool checked) {
     background(square, look, state);
-    if (!ticked) {
+    if (!checked) {
         return;
     }
     const auto size = static_cast<float>(square.width());
@@ -155,4 +160,4 @@ void ElementPainter::frameButton(const Rect& area, const ElementLook& look, Cont
     }
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

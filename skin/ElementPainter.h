@@ -1,5 +1,4 @@
-// How a skin's elements are drawn into a canvas: what is the same for every
-// kind of control.
+// Draws a skin's elements into a canvas: the parts that all kinds of controls share.
 #pragma once
 
 #include "skin/Canvas.h"
@@ -8,9 +7,9 @@
 
 #include <string_view>
 
-namespace korvane {
+namespace korvane::skin {
 
-// The system's own colours, which replace every colour of a skin while the user wants high contrast.
+// The system's colours, which replace every colour of a skin under high contrast.
 struct SystemColours {
     Pixel window = 0xFFFFFFFF;
     Pixel windowText = 0xFF000000;
@@ -26,36 +25,36 @@ struct SystemColours {
     Pixel inactiveCaptionText = 0xFFC0C0C0;
 };
 
-// The look of an element in the system's colours: without pictures and round corners, in the sizes of the skin.
+// The look of an element in the system's colours: the sizes of the skin without its pictures and round corners.
 ElementLook highContrastLook(std::string_view element, const ElementLook& skin, const SystemColours& system);
 
-// Pixels for a length at 96 DPI; a length that is not 0 stays visible.
+// A length at 96 DPI in pixels at `dpi`; at least 1 unless it is 0.
 int scaled(int length, int dpi);
 
-// What is needed to draw a look, wherever it is drawn.
+// What turns the colours and lengths of a look into pixels.
 struct SkinPalette {
     std::array<Pixel, 5> colours{};  // by ColourSource
     int hue = 0;                     // degrees
     int dpi = 96;
 
-    // Opaque, and turned by the hue.
+    // The opaque colour, turned by the hue.
     Pixel of(const SkinColour& colour) const;
     int pixels(int length) const { return scaled(length, dpi); }
 };
 
-// The four colours are the properties' when they apply, else the skin's.
+// The four colours are those of the properties if they apply, else those of the skin.
 SkinPalette makePalette(const SkinFile& skin, const SkinProperties& properties, int dpi);
 
 class ElementPainter {
 public:
     ElementPainter(Canvas& canvas, const SkinPalette& palette) : canvas_(canvas), palette_(palette) {}
 
-    // The element's picture, or its fill and border, over what is there.
+    // The element's picture, or else its fill and border, over what has been drawn.
     void background(const Rect& area, const ElementLook& look, ControlState state);
-    // As much of the fill as a window shows that lies at `area` of a surface that is `whole`.
+    // The part at `area` of a fill that covers `whole`.
     void surface(const Rect& area, const Rect& whole, const ElementLook& look, ControlState state);
-    // The square of a check box, with its mark if it is ticked.
-    void checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool ticked);
+    // The square of a check box, with a mark if it is checked.
+    void checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool checked);
     // A button of the frame with its sign: "Help", "Minimize" or "Close".
     void frameButton(const Rect& area, const ElementLook& look, ControlState state, std::string_view name);
 
@@ -66,4 +65,4 @@ private:
     const SkinPalette& palette_;
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

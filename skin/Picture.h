@@ -1,12 +1,12 @@
-// A picture in memory, as the skin's pictures are read and drawn.
+// A picture in memory.
 #pragma once
 
 #include <cstdint>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 
-// 0xAARRGGBB, the colours not multiplied by the alpha.
+// 0xAARRGGBB, not premultiplied.
 using Pixel = std::uint32_t;
 
 struct Picture {
@@ -15,4 +15,4 @@ struct Picture {
     std::vector<Pixel> pixels;  // the top row first, without gaps
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

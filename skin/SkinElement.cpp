@@ -1,4 +1,4 @@
-// The keys of a section are one table.
+// One table holds the keys of a section.
 #include "skin/SkinElement.h"
 
 #include "skin/SkinValues.h"
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr int kSmallestCaption = 16;
@@ -14,7 +14,7 @@ constexpr int kUsualCaption = 26;
 constexpr std::string_view kStateNames[kControlStates] = {"Normal",   "Hot",     "Pressed",
                                                            "Disabled", "Focused", "Inactive"};
 
-// Gives a member that is kept as "said or not" its value.
+// Sets a value that is missing until its key has been read.
 template <typename Value>
 std::string takeInto(std::optional<Value>& target, std::string_view text,
                      std::string (*take)(std::string_view, Value&)) {
@@ -140,7 +140,7 @@ void SkinElement::completeStates() {
     }
 }
 
-// The edges of a picture that are not stretched may meet, but not overlap.
+// The margins of a picture may meet, but not overlap.
 std::string SkinElement::addPicture(const FindPicture& findPicture, int& line) {
     line = lineOf("Picture");
     if (line == 0) {
@@ -148,7 +148,7 @@ std::string SkinElement::addPicture(const FindPicture& findPicture, int& line) {
         return line == 0 ? "" : "PictureStates needs a Picture";
     }
     if (pictureName_.empty()) {
-        return {};  // the key without a value has been found wrong already
+        return {};  // the missing value has been reported
     }
     std::shared_ptr<const Picture> picture;
     if (std::string wrong = findPicture(pictureName_, picture); !wrong.empty()) {
@@ -170,4 +170,4 @@ std::string SkinElement::addPicture(const FindPicture& findPicture, int& line) {
     return {};
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,4 +1,4 @@
-// One element's section of a skin file on its way to an ElementLook.
+// Turns one element's section of a skin file into an ElementLook.
 #pragma once
 
 #include "skin/SkinFile.h"
@@ -12,24 +12,24 @@
 #include <string>
 #include <string_view>
 
-namespace korvane {
+namespace korvane::skin {
 
-// Reads a picture, or says why it cannot.
+// Reads a picture, or returns why it cannot.
 using FindPicture = std::function<std::string(std::string_view name, std::shared_ptr<const Picture>& picture)>;
 
 class SkinElement {
 public:
     explicit SkinElement(bool isMain);
 
-    // Takes one entry of the section. Answers why it cannot, or an empty text.
+    // Takes one entry of the section. Returns why it cannot, or an empty text.
     std::string take(const SkinLine& entry);
 
-    // When the section has been read: what needs all of its keys. Answers what is wrong, or an empty text and the look;
-    // `line` is the line concerned.
+    // At the end of the section: checks the keys against each other. Returns what is wrong, with its line, or an empty
+    // text with the look.
     std::string finish(const FindPicture& findPicture, ElementLook& look, int& line);
 
 private:
-    // What a section says of a state; what it does not say is empty.
+    // What the section says of one state; the inner optional of fill and border is empty for "none".
     struct StateKeys {
         std::optional<std::optional<SkinFill>> fill;
         std::optional<std::optional<SkinColour>> border;
@@ -48,8 +48,8 @@ private:
     ElementLook look_;
     std::array<StateKeys, kControlStates> states_;
     std::string pictureName_;
-    // By key and state: the line where it stands, 0 when it does not.
+    // The line of each key and state, 0 when it is missing.
     std::array<std::array<int, kControlStates>, kMostKeys> lines_{};
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,4 +1,4 @@
-// Sections and lines are sorted here; what an element's lines mean is known to SkinElement.
+// Assigns each line to its section; SkinElement knows what the lines of an element mean.
 #include "skin/SkinFile.h"
 
 #include "skin/SkinElement.h"
@@ -7,22 +7,16 @@
 #include "skin/SkinValues.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr std::string_view kElementNames[] = {"Main",   "SubMain",  "CheckBox",   "Label",
                                               "Button", "Splitter", "FrameButton"};
-// A text with more of them was not written as a skin. The limit also bounds the time that any text can take.
+// A text with more of them was not written as a skin. The limit also bounds the time for reading any text.
 constexpr std::size_t kMostMistakes = 100;
-
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 }  // namespace
 
@@ -34,7 +28,7 @@ class SkinFile::Loader {
 public:
     Loader(SkinFile& skin, const ReadSkinFile& read) : skin_(skin), read_(read) {}
 
-    // Answers what makes the whole skin unusable, if anything.
+    // Returns what makes the whole skin unusable, if anything.
     std::optional<SkinProblem> run(std::string_view text) {
         SkinProblem problem;
         if (!checkSkinText(skin_.name_, "Skin", text, problem)) {
@@ -46,7 +40,7 @@ public:
             if (line.kind == SkinLine::Kind::Section) {
                 enter(line);
             } else if (line.kind == SkinLine::Kind::Unclear && line.name.starts_with('[')) {
-                // Which section was meant is not known: what follows belongs to none.
+                // The section that was meant is unknown, so what follows belongs to none.
                 section_ = Section::PassedOver;
                 mistake(line.number, quotedPart(line.name) + " does not end with a bracket");
             } else {
@@ -68,7 +62,7 @@ private:
         std::optional<SkinProblem> problem;  // the first
     };
 
-    // A mistake belongs to an element, or to the skin.
+    // A mistake in the given element, or in the skin as a whole.
     void mistake(int line, std::string reason, Element* element = nullptr) {
         if (stopped_) {
             return;
@@ -88,7 +82,7 @@ private:
         }
     }
 
-    // What holds for the whole skin makes it unusable when it is wrong.
+    // A mistake that makes the whole skin unusable.
     void refuse(int line, std::string reason) {
         mistake(line, std::move(reason));
         if (!refusal_) {
@@ -163,14 +157,14 @@ private:
         for (Element& element : elements_) {
             ElementLook look;
             finish(element, look);
-            Entry& entry = skin_.elements_[lowerCase(element.name)];
+            Entry& entry = skin_.elements_.emplace_back(Entry{.name = element.name});
             if (element.problem) {
                 entry.problem = *element.problem;
             } else {
                 entry.look = std::move(look);
             }
         }
-        // Where they stand in the file; what is missing in it comes last.
+        // In the order of the file; what it lacks comes last.
         std::ranges::stable_sort(skin_.problems_, {}, [](const SkinProblem& problem) {
             return static_cast<unsigned>(problem.line) - 1;
         });
@@ -238,16 +232,17 @@ bool SkinFile::load(const std::string& name, std::string_view text, const ReadSk
 }
 
 const ElementLook* SkinFile::element(std::string_view name, SkinProblem& problem) const {
-    const auto found = elements_.find(lowerCase(name));
+    const auto found = std::ranges::find_if(
+        elements_, [name](const Entry& entry) { return equalIgnoringCase(entry.name, name); });
     if (found == elements_.end()) {
         problem = {name_, 0, "there is no element " + quotedPart(name)};
         return nullptr;
     }
-    if (!found->second.look) {
-        problem = found->second.problem;
+    if (!found->look) {
+        problem = found->problem;
         return nullptr;
     }
-    return &*found->second.look;
+    return &*found->look;
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

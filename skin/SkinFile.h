@@ -1,5 +1,4 @@
-// The skin file (docs/SKINS.md): how each element of the windows looks. It is
-// an INI text; pictures lie beside it.
+// The skin file (docs/SKINS.md): how each element of the windows looks. It is an INI text with pictures beside it.
 #pragma once
 
 #include "skin/Picture.h"
@@ -7,14 +6,13 @@
 #include <array>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 
 // What is wrong with a file of a skin, and where.
 struct SkinProblem {
@@ -46,10 +44,10 @@ struct SkinFill {
 
 // What depends on the state of a control.
 struct StateLook {
-    std::optional<SkinFill> fill;      // none: what is behind shows through
+    std::optional<SkinFill> fill;      // none: transparent
     std::optional<SkinColour> border;  // none: no border
     SkinColour text;
-    SkinColour mark;  // the check mark, or the sign on a button of the frame
+    SkinColour mark;  // the check mark, or the sign on a frame button
 };
 
 struct SkinMargins {
@@ -69,11 +67,11 @@ struct SkinFont {
 struct ElementLook {
     std::array<StateLook, kControlStates> states;
     SkinFont font;
-    SkinMargins margins;  // between the edge and the text; of a picture, the edges that are not stretched
+    SkinMargins margins;  // between edge and text; with a picture, its edges that are not stretched
     int radius = 0;       // of the corners
     int borderWidth = 1;
-    // One above the other, a picture for each state in the order of ControlState; those that are missing at the end
-    // are those of the normal state. Null: drawn with the colours alone.
+    // One picture per state, one below the other in the order of ControlState; states missing at the end look like the
+    // normal one. Null: drawn with the colours alone.
     std::shared_ptr<const Picture> picture;
     int pictureStates = 1;
     int captionHeight = 0;             // "Main" alone
@@ -82,41 +80,41 @@ struct ElementLook {
     const StateLook& of(ControlState state) const { return states[static_cast<std::size_t>(state)]; }
 };
 
-// Reads a file beside the skin file; nothing when it cannot be read or is longer than kLongestSkinFile.
+// Reads a file beside the skin file; nullopt when it cannot be read or is longer than kLongestSkinFile.
 using ReadSkinFile = std::function<std::optional<std::string>(const std::string& name)>;
 constexpr std::size_t kLongestSkinFile = std::size_t{16} << 20;  // bytes, of the skin and of each picture
 
 class SkinFile {
 public:
-    // Takes the text of a skin file and reads the pictures that it names. False with a problem when the text is not a
-    // skin at all; what is wrong with one element is kept until that element is asked for.
+    // Reads the text of a skin file and the pictures that it names. False with a problem when the text is not a skin at
+    // all; a mistake in one element is reported only for that element.
     bool load(const std::string& name, std::string_view text, const ReadSkinFile& read, SkinProblem& problem);
 
-    // Null, with a problem, when the skin lacks the element or something in its section is wrong. "Main", "SubMain",
-    // "CheckBox", "Label", "Button", "Splitter", and "FrameButton" for the buttons of the frame. Names are compared
-    // without regard to case. The look lives as long as this object and until it is loaded again.
+    // "Main", "SubMain", "CheckBox", "Label", "Button", "Splitter" or "FrameButton", in any case. Null, with a problem,
+    // when the skin lacks the element or its section has a mistake. The look is valid until the next load.
     const ElementLook* element(std::string_view name, SkinProblem& problem) const;
 
-    // Those of the skin and those that it lacks.
+    // Including those that the skin lacks.
     std::size_t elementCount() const { return elements_.size(); }
 
-    // The skin's values of the program's four colours, for when the program has none of its own.
+    // The skin's values of the program's four colours, for when the program sets none.
     Pixel colour(ColourSource source) const { return colours_[static_cast<std::size_t>(source)]; }
 
-    // Everything that is wrong, in the order of the file: for checking a skin.
+    // All mistakes in the order of the file.
     std::vector<SkinProblem> problems() const { return problems_; }
 
 private:
     class Loader;
     struct Entry {
-        std::optional<ElementLook> look;  // none: problem says why
-        SkinProblem problem;
+        std::string_view name;              // one of the seven constants
+        std::optional<ElementLook> look{};  // none: problem says why
+        SkinProblem problem{};
     };
 
     std::string name_;
-    std::map<std::string, Entry, std::less<>> elements_;  // by name in lower case
+    std::vector<Entry> elements_;
     std::array<Pixel, 5> colours_{};
     std::vector<SkinProblem> problems_;
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

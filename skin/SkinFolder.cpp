@@ -1,11 +1,11 @@
-// Splitting the path, and reading whole files.
+// Splits the path, and reads whole files.
 #include "skin/SkinFolder.h"
 
 #include "platform/stdio/StdioFiles.h"
 
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 
 SkinFolder::SkinFolder(std::string_view path) {
     const std::size_t separator = path.find_last_of("\\/");
@@ -23,4 +23,4 @@ ReadSkinFile SkinFolder::reader() const {
     return [folder = *this](const std::string& name) { return folder.read(name); };
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

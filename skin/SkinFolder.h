@@ -1,4 +1,4 @@
-// The folder of a skin: the file that was named, and what lies beside it.
+// The folder of a skin or splash file, with the pictures beside the file.
 #pragma once
 
 #include "skin/SkinFile.h"
@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace korvane {
+namespace korvane::skin {
 
 class SkinFolder {
 public:
@@ -15,13 +15,13 @@ public:
     explicit SkinFolder(std::string_view path);
 
     const std::string& fileName() const { return fileName_; }
-    // Nothing when the file cannot be read or is longer than kLongestSkinFile.
+    // nullopt when the file cannot be read or is longer than kLongestSkinFile.
     std::optional<std::string> read(const std::string& name) const;
     ReadSkinFile reader() const;
 
 private:
-    std::string folder_;  // with its separator; empty: the current one
+    std::string folder_;  // with a separator at the end; empty for the current folder
     std::string fileName_;
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,12 +1,11 @@
-// Reads little-endian data that may end anywhere. One reader serves both forms: once a read has failed, all further
-// reads fail too.
+// Reads little-endian data that may end anywhere: once a read has failed, all further reads fail, too.
 #include "skin/SkinProperties.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr std::uint32_t kBoolean = 6;
@@ -58,7 +57,7 @@ private:
 
 std::size_t sizeOf(std::uint32_t type) { return type == kInteger ? 4 : type == kColour ? 3 : 2; }
 
-// Where a property goes: the pointer for its type is set.
+// The member that a property sets; one of the pointers is set.
 struct Target {
     std::u16string_view name;
     std::uint32_t type;
@@ -103,7 +102,7 @@ SkinProperties readSkinProperties(std::span<const std::byte> data) {
     SkinProperties properties;
     DataReader reader(data);
     for (int group = 0; group < kGroups; ++group) {
-        // A count that is too high runs into the end of the data.
+        // A count that is too high ends at the end of the data.
         const std::uint32_t count = reader.number(4);
         for (std::uint32_t i = 0; i < count && !reader.failed(); ++i) {
             const std::u16string name = reader.textToZero();
@@ -132,4 +131,4 @@ std::span<const std::byte> controlData(std::span<const std::byte> dialogData, in
     }
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

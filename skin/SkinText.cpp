@@ -1,4 +1,4 @@
-// Every look at the text is one pass over it, whatever it holds.
+// Every check is one pass over the text, whatever it holds.
 #include "skin/SkinText.h"
 
 #include "skin/BitmapFile.h"
@@ -7,14 +7,14 @@
 #include <optional>
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
-// The old end-of-file character counts as white space.
+// The end-of-file character of DOS (0x1A) counts as white space.
 constexpr std::string_view kWhiteSpace = " \t\v\f\x1a";
 constexpr std::size_t kLongestQuotation = 60;
 
-// Windows opens a device under these names in every folder, whatever follows the first dot.
+// In every folder Windows opens a device under these names, whatever follows the first dot.
 bool isDevice(std::string_view name) {
     const std::string_view stem = withoutBlanks(name.substr(0, name.find('.')));
     constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL"};
@@ -25,7 +25,7 @@ bool isDevice(std::string_view name) {
            stem[3] >= '0' && stem[3] <= '9';
 }
 
-// A picture lies in the skin's own folder: its name must not lead anywhere else.
+// Pictures are read from the skin's own folder alone.
 bool isPlainFileName(std::string_view name) {
     const bool hasStrangeCharacter = std::ranges::any_of(name, [](char c) {
         return static_cast<unsigned char>(c) < ' ' || std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos;
@@ -33,7 +33,7 @@ bool isPlainFileName(std::string_view name) {
     return !hasStrangeCharacter && name.find("..") == std::string_view::npos && !isDevice(name);
 }
 
-// The line of Format in the first section of that name; nothing when it has none.
+// The line of the Format key in the first section of that name; nullopt when there is none.
 std::optional<SkinLine> findFormat(std::string_view text, std::string_view section) {
     SkinLines lines(text);
     bool inSection = false;
@@ -50,7 +50,7 @@ std::optional<SkinLine> findFormat(std::string_view text, std::string_view secti
     return std::nullopt;
 }
 
-// Why this cannot be a text of either kind.
+// Why this is no text of either kind; empty if it may be one.
 std::string whyNoText(std::string_view text) {
     if (text.size() > kLongestSkinFile) {
         return "is longer than 16 MB";
@@ -144,4 +144,4 @@ std::string_view withoutBlanks(std::string_view text) {
                                            : text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,14 +1,13 @@
-// What the skin file and the splash file have in common: an INI text read line
-// by line, so that every mistake can be named with its line.
+// What skin and splash files share: an INI text, read line by line, so that every mistake is reported with its line.
 #pragma once
 
-#include "text/EqualIgnoringCase.h"
 #include "skin/SkinFile.h"
+#include "text/EqualIgnoringCase.h"
 
 #include <string>
 #include <string_view>
 
-namespace korvane {
+namespace korvane::skin {
 
 struct SkinLine {
     enum class Kind { Section, Entry, Unclear };
@@ -18,7 +17,7 @@ struct SkinLine {
     std::string_view value{};  // of an entry, without the white space around it
 };
 
-// The lines that mean something: blank lines and comments are passed over.
+// The sections and entries of a text; blank lines and comments are skipped.
 class SkinLines {
 public:
     explicit SkinLines(std::string_view text) : rest_(text) {}
@@ -31,16 +30,16 @@ private:
     int number_ = 0;
 };
 
-// Whether this is a text with Format=1 in the given section. If it is, a byte order mark is taken off; if not, the
-// problem says why.
+// Whether this is a text with Format=1 in the given section. If so, a byte order mark is removed; if not, the problem says
+// why.
 bool checkSkinText(const std::string& name, std::string_view section, std::string_view& text, SkinProblem& problem);
 
-// Reads a picture beside the skin file. Answers why it cannot, naming the picture, or an empty text.
+// Reads a picture beside the skin file. Returns why it cannot, with the picture's name, or an empty text.
 std::string readSkinPicture(std::string_view name, const ReadSkinFile& read, Picture& picture);
 
-// A part of a file in quotation marks: short, and safe to show anywhere.
+// A part of a file in quotation marks, shortened, and with "?" for everything but printable ASCII.
 std::string quotedPart(std::string_view text);
 
 std::string_view withoutBlanks(std::string_view text);
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,5 +1,5 @@
-// Values are strict: what is not understood as a whole is a mistake, so that a slip of the keyboard is not taken for
-// something else.
+// Strict: a value that is not understood as a whole is a mistake, so that a typing error is never taken for something
+// else.
 #include "skin/SkinValues.h"
 
 #include "skin/SkinText.h"
@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <system_error>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr std::string_view kColourNames[] = {"", "Back", "Fore", "Panel", "PanelText"};
@@ -28,7 +28,7 @@ std::optional<Number> wholeNumber(std::string_view text, int base) {
     return whole ? std::optional(number) : std::nullopt;
 }
 
-// The parts between commas; one more than `most` when there are more of them than that.
+// The parts between commas; if there are more than `most`, only the first `most` + 1.
 std::vector<std::string_view> partsOf(std::string_view value, std::size_t most) {
     std::vector<std::string_view> parts;
     for (std::size_t start = 0; start <= value.size() && parts.size() <= most;) {
@@ -171,4 +171,4 @@ std::string takeButtons(std::string_view value, std::vector<std::string>& target
     return {};
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

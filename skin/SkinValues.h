@@ -1,5 +1,4 @@
-// The values of a skin file's keys: colours, fills, numbers, margins, fonts,
-// buttons.
+// Parses the values of a skin file's keys: colours, fills, numbers, margins, fonts, buttons.
 #pragma once
 
 #include "skin/SkinFile.h"
@@ -9,11 +8,11 @@
 #include <string_view>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 
 constexpr int kLargestLength = 200;  // pixels at 96 DPI
 
-// Each takes a value and answers why it cannot, or an empty text; after a failure the target is as it was.
+// Each returns what is wrong with the value, or an empty text; after a failure the target is unchanged.
 std::string takeOwnColour(std::string_view value, Pixel& target);  // #RRGGBB alone
 std::string takeColour(std::string_view value, SkinColour& target);
 std::string takeColourOrNone(std::string_view value, std::optional<SkinColour>& target);
@@ -26,4 +25,4 @@ std::string takeButtons(std::string_view value, std::vector<std::string>& target
 // The key of [Colors] and the word for that colour; empty for ColourSource::Own.
 std::string_view colourName(ColourSource source);
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -6,12 +6,12 @@
 #include <optional>
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 class SplashReader {
 public:
-    // Answers what is wrong with the line, or an empty text.
+    // Returns what is wrong with the line, or an empty text.
     std::string take(const SkinLine& line) {
         if (line.kind == SkinLine::Kind::Section) {
             const bool isFirst = !inSplash_ && equalIgnoringCase(line.name, "Splash");
@@ -66,4 +66,4 @@ bool readSplash(const std::string& name, std::string_view text, const ReadSkinFi
     return false;
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

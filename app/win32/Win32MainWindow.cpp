@@ -1,8 +1,9 @@
-// The dialog procedure of the main window, and the operations of MainWindow.
+// The dialog procedure of the main window, and the calls of its owner.
 #include "app/win32/Win32MainWindow.h"
 
 #include "platform/win32/Splitter.h"
 #include "platform/win32/Win32System.h"
+#include "platform/win32/WindowFunctions.h"
 #include "res/ControlIds.h"
 #include "skin/SkinProperties.h"
 #include "skin/win32/SkinEngine.h"
@@ -16,7 +17,7 @@ constexpr UINT kShowHelp = WM_USER + 203;
 // Windows uses the low four bits of a system command itself.
 constexpr WPARAM kSystemCommandMask = 0xFFF0;
 
-// What the resources hold for the dialog's controls: a resource of this type with the dialog's number.
+// RT_DLGINIT: what the resource script holds for the controls of the dialog with the same number.
 constexpr int kDialogInitResource = 240;
 
 std::span<const std::byte> dialogInitData(HINSTANCE instance, int dialog) {
@@ -26,23 +27,13 @@ std::span<const std::byte> dialogInitData(HINSTANCE instance, int dialog) {
     return {static_cast<const std::byte*>(data), data != nullptr ? SizeofResource(instance, resource) : 0};
 }
 
-void moveToBottom(HWND window) {
-    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
 }  // namespace
 
 Win32MainWindow::Win32MainWindow(HINSTANCE instance, Win32System& system) : instance_(instance), system_(system) {
     registerTreeListClass(instance);
     registerSplitterClass(instance);
-    registerSkinEngineClass(instance);
-    registerSplashClass(instance);
-}
-
-Win32MainWindow::~Win32MainWindow() {
-    if (images_ != nullptr) {
-        ImageList_Destroy(images_);
-    }
+    skin::registerSkinEngineClass(instance);
+    skin::registerSplashClass(instance);
 }
 
 int Win32MainWindow::runModal(MainWindowHandler& handler) {
@@ -75,15 +66,14 @@ void Win32MainWindow::onInitDialog(HWND window) {
     tree_.emplace(GetDlgItem(window, IDC_TREE));
     splash_.emplace(GetDlgItem(window, IDC_SPLASH));
     system_.setMainWindow(window);
-    // The dialog does not erase the background where children paint, which would flicker; pages cover the placeholders
-    // of the engines.
+    // Without it the dialog would erase the background below its children, which would flicker.
     SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | WS_CLIPCHILDREN);
     moveToBottom(GetDlgItem(window, IDC_SPLASH));
     centreWindow(window);
-    const HWND engine = GetDlgItem(window, IDC_SKIN);
-    initialiseSkinEngine(engine, controlData(dialogInitData(instance_, IDD_MAIN), IDC_SKIN));
-    if (Win32SkinEngine* skin = skinEngineOf(engine)) {
-        skin->setFrameButtonHandler([this](const std::string& name) { handler_->OnFrameButton(name); });
+    if (skin::Win32SkinEngine* engine = win32SkinEngine()) {
+        const auto data = skin::controlData(dialogInitData(instance_, IDD_MAIN), IDC_SKIN);
+        engine->setProperties(skin::readSkinProperties(data));
+        engine->setFrameButtonHandler([this](const std::string& name) { handler_->OnFrameButton(name); });
     }
     handler_->OnInitDialog();
 }
@@ -125,12 +115,12 @@ INT_PTR Win32MainWindow::onCommand(WPARAM wParam, LPARAM lParam) {
     if (HIWORD(wParam) != BN_CLICKED || control == nullptr) {
         return FALSE;
     }
-    // Enter on a button of a page arrives here, because this is the modal dialog; the page must handle it.
+    // Enter on a page's button arrives here, because this dialog's message loop runs; the page handles it.
     if (GetParent(control) != window_) {
         SendMessageA(GetParent(control), WM_COMMAND, wParam, lParam);
         return TRUE;
     }
-    // Enter anywhere else means the default button, even if that is hidden.
+    // Enter anywhere else presses the default button, even while it is hidden.
     if (LOWORD(wParam) == IDC_APPLY && IsWindowVisible(control)) {
         handler_->OnApplyChanges();
     }
@@ -146,8 +136,8 @@ INT_PTR Win32MainWindow::onNotify(const NMHDR& notification) {
     return TRUE;
 }
 
-// Redraws only once all controls have changed: some controls draw themselves at once, and a moved window carries along
-// the pixels of what was below it.
+// Shows a change of many controls in one piece: some controls draw themselves at once, and moving a window copies along
+// whatever is on the screen there.
 void Win32MainWindow::changeAtOnce(const std::function<void()>& change) {
     if (!IsWindowVisible(window_)) {
         change();
@@ -159,19 +149,16 @@ void Win32MainWindow::changeAtOnce(const std::function<void()>& change) {
     redrawAll();
 }
 
-// Only the icon of a minimized window is drawn here.
+// A minimized dialog has to draw its icon itself.
 bool Win32MainWindow::paintIcon() {
     if (!IsIconic(window_)) {
         return false;
     }
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(window_, &paint);
-    SendMessageA(window_, WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
-    RECT client{};
-    GetClientRect(window_, &client);
-    DrawIcon(dc, (client.right - GetSystemMetrics(SM_CXICON) + 1) / 2,
-             (client.bottom - GetSystemMetrics(SM_CYICON) + 1) / 2, icon_);
-    EndPaint(window_, &paint);
+    const PaintDc dc(window_);
+    SendMessageA(window_, WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(dc.get()), 0);
+    const SIZE client = clientSize(window_);
+    DrawIcon(dc.get(), (client.cx - GetSystemMetrics(SM_CXICON) + 1) / 2,
+             (client.cy - GetSystemMetrics(SM_CYICON) + 1) / 2, icon_);
     return true;
 }
 
@@ -181,7 +168,7 @@ void Win32MainWindow::onDestroy() {
     SetWindowLongPtrA(window_, DWLP_USER, 0);
 }
 
-// ---- What the owner asks for
+// ---- Calls of the owner
 
 void Win32MainWindow::appendSystemMenuSeparator() {
     AppendMenuA(GetSystemMenu(window_, FALSE), MF_SEPARATOR, 0, nullptr);
@@ -205,27 +192,30 @@ void Win32MainWindow::setIcons(int resourceId) {
 }
 
 void Win32MainWindow::createImageList(int size, int initialImages, int growth) {
-    images_ = ImageList_Create(size, size, ILC_COLOR24 | ILC_MASK, initialImages, growth);
-    tree_->offerImageList(images_);
+    images_.reset(ImageList_Create(size, size, ILC_COLOR24 | ILC_MASK, initialImages, growth));
+    tree_->offerImageList(images_.get());
 }
 
 void Win32MainWindow::addImage(int bitmapResource, Colour mask) {
-    const HBITMAP bitmap = LoadBitmapA(instance_, MAKEINTRESOURCEA(bitmapResource));
-    ImageList_AddMasked(images_, bitmap, mask);
-    DeleteObject(bitmap);
+    const Bitmap bitmap(LoadBitmapA(instance_, MAKEINTRESOURCEA(bitmapResource)));
+    ImageList_AddMasked(images_.get(), bitmap.get(), mask);
 }
 
-ISkinEngine* Win32MainWindow::skinEngine() { return skinEngineOf(GetDlgItem(window_, IDC_SKIN)); }
+ISkinEngine* Win32MainWindow::skinEngine() { return win32SkinEngine(); }
+
+skin::Win32SkinEngine* Win32MainWindow::win32SkinEngine() const {
+    return skin::skinEngineOf(GetDlgItem(window_, IDC_SKIN));
+}
 
 void Win32MainWindow::createDivider(int controlId, int rangeLeft, int rangeRight) {
     const HWND placeholder = GetDlgItem(window_, controlId);
-    const HWND divider = createSplitter(instance_, window_, controlId, dialog_->controlRect(controlId), rangeLeft,
-                                        rangeRight);
-    if (Win32SkinEngine* skin = skinEngineOf(GetDlgItem(window_, IDC_SKIN))) {
-        skin->replaceWindow(placeholder, divider);
+    const HWND splitter = createSplitter(instance_, window_, controlId, dialog_->controlRect(controlId),
+                                         {.left = rangeLeft, .right = rangeRight});
+    if (skin::Win32SkinEngine* engine = win32SkinEngine()) {
+        engine->replaceWindow(placeholder, splitter);
     }
-    // Above the pages in Z order, and before its placeholder, which has the same id.
-    SetWindowPos(divider, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    // Above the pages, and found before its placeholder, which has the same id.
+    moveToTop(splitter);
 }
 
 void Win32MainWindow::createPage(int templateId, DialogHandler& handler) {
@@ -233,7 +223,7 @@ void Win32MainWindow::createPage(int templateId, DialogHandler& handler) {
     const HWND made = page->create(instance_, templateId, window_);
     pages_.push_back(std::move(page));
     if (made != nullptr) {
-        // Tree, splitter and button cover the edges of the pages; the tab order is tree, page, button.
+        // Tree, splitter and button lie above the edges of the pages. The tab order is tree, page, button.
         moveToBottom(made);
         moveToBottom(GetDlgItem(window_, IDC_SPLASH));
     }

@@ -1,8 +1,8 @@
-// The real main window: dialog 102, modal, with its tree, splitter, pages and image
-// list.
+// The real main window: dialog 102, run modally, with its tree, splitter, pages and image list.
 #pragma once
 
 #include "platform/MainWindow.h"
+#include "platform/win32/Handles.h"
 #include "platform/win32/TreeListCtrl.h"
 #include "platform/win32/Win32Dialog.h"
 #include "platform/win32/Win32DialogHost.h"
@@ -19,6 +19,9 @@
 namespace korvane {
 
 class Win32System;
+namespace skin {
+class Win32SkinEngine;
+}
 
 class Win32MainWindow final : public MainWindow {
 public:
@@ -26,12 +29,11 @@ public:
     Win32MainWindow(HINSTANCE instance, Win32System& system);
     Win32MainWindow(const Win32MainWindow&) = delete;
     Win32MainWindow& operator=(const Win32MainWindow&) = delete;
-    ~Win32MainWindow() override;
 
-    // Runs the window until it closes. Returns the dialog's result, or -1 if the window could not be created.
+    // Returns when the window has closed: the result of EndDialog, or -1 if the window could not be made.
     int runModal(MainWindowHandler& handler);
-    // Creates the window and returns at once, for a caller that runs its own message loop and destroys the window
-    // before this object. Null if it could not be created.
+    // Makes the window and returns at once. The caller runs a message loop and destroys the window before this object.
+    // Null if it could not be made.
     HWND create(MainWindowHandler& handler);
 
     DialogControls& controls() override { return *dialog_; }
@@ -62,17 +64,19 @@ private:
     void changeAtOnce(const std::function<void()>& change);
     bool paintIcon();
     void onDestroy();
+    // Null when the dialog has no engine control.
+    skin::Win32SkinEngine* win32SkinEngine() const;
 
     HINSTANCE instance_;
     Win32System& system_;
     MainWindowHandler* handler_ = nullptr;
     HWND window_ = nullptr;
     HICON icon_ = nullptr;
-    HIMAGELIST images_ = nullptr;
+    ImageList images_;
     std::optional<Win32Dialog> dialog_;
     std::optional<Win32TreeListCtrl> tree_;
     std::vector<std::unique_ptr<Win32DialogHost>> pages_;
-    std::optional<Win32Splash> splash_;
+    std::optional<skin::Win32Splash> splash_;
 };
 
 }  // namespace korvane

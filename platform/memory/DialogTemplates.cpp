@@ -23,9 +23,8 @@
 #define SKIN_ENGINE(id, x, y, w, h) CONTROL_ROW(id, Other, "", false, x, y, w, h)
 #define ICON_PICTURE(id, x, y, w, h) CONTROL_ROW(-1, Other, "", true, x, y, w, h)
 #define TEXT_LINE(id, text, x, y, w, h) CONTROL_ROW(id, Label, text, true, x, y, w, h)
-#define WS_VISIBLE true
-#define NOT !
-#define DEFAULT_BUTTON(id, text, x, y, w, h, visible) CONTROL_ROW(id, Button, text, (visible), x, y, w, h)
+#define DEFAULT_BUTTON(id, text, x, y, w, h) CONTROL_ROW(id, Button, text, true, x, y, w, h)
+#define HIDDEN_DEFAULT_BUTTON(id, text, x, y, w, h) CONTROL_ROW(id, Button, text, false, x, y, w, h)
 
 namespace korvane {
 namespace {

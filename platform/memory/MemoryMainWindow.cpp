@@ -64,9 +64,9 @@ void MemoryTree::SetStyle(std::uint32_t style) { note(log_, "tree style", hexade
 
 void MemoryTree::SetImageList() { note(log_, "tree image list"); }
 
-void MemoryTree::InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
-                              int order) {
-    note(log_, "tree column", '[' + std::string(heading) + ']', hexadecimal(format), width, image, subItem, order);
+void MemoryTree::InsertColumn(const TreeColumn& column) {
+    note(log_, "tree column", '[' + std::string(column.heading) + ']', hexadecimal(column.format), column.width,
+         column.image, column.subItem, column.order);
 }
 
 void MemoryTree::SetColumnModify(int column, int modify) { note(log_, "tree column modify", column, modify); }

@@ -54,8 +54,7 @@ public:
 
     void SetStyle(std::uint32_t style) override;
     void SetImageList() override;
-    void InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
-                      int order) override;
+    void InsertColumn(const TreeColumn& column) override;
     void SetColumnModify(int column, int modify) override;
     void SetColumnWidth(int column, int width, int minimum, int maximum) override;
     MemoryBackgroundImage& GetBGImage() override { return background_; }

@@ -1,5 +1,8 @@
-// One row, in the system's colours of the moment.
+// The system's colours are read for each row, so a change of scheme shows at once.
 #include "platform/win32/ColourComboPainter.h"
+
+#include "platform/win32/Handles.h"
+#include "platform/win32/PaintBuffer.h"
 
 #include <cstddef>
 #include <string>
@@ -7,18 +10,12 @@
 namespace korvane {
 namespace {
 
-constexpr int kSwatchWidth = 28;  // pixels, with the space around it
+constexpr int kSwatchWidth = 28;  // pixels, with the margin
 constexpr int kSwatchMargin = 2;
 constexpr int kNameGap = 3;
 constexpr UINT kSpaceAroundLine = 2;
 
 COLORREF inverse(COLORREF colour) { return ~colour & 0xFFFFFF; }
-
-void fill(HDC dc, const RECT& area, COLORREF colour) {
-    const HBRUSH brush = CreateSolidBrush(colour);
-    FillRect(dc, &area, brush);
-    DeleteObject(brush);
-}
 
 std::string rowText(HWND combo, UINT row) {
     const LRESULT length = SendMessageA(combo, CB_GETLBTEXTLEN, row, 0);
@@ -43,7 +40,7 @@ void drawSwatch(HDC dc, const RECT& row, COLORREF colour) {
     RECT swatch = row;
     swatch.right = swatch.left + kSwatchWidth;
     InflateRect(&swatch, -kSwatchMargin, -kSwatchMargin);
-    fill(dc, swatch, colour);
+    fillArea(dc, swatch, colour);
     FrameRect(dc, &swatch, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
 }
 
@@ -64,22 +61,17 @@ void drawName(const DRAWITEMSTRUCT& draw) {
 }  // namespace
 
 void measureColourRow(HWND dialog, MEASUREITEMSTRUCT& measure) {
-    const HDC dc = GetDC(dialog);
-    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageA(dialog, WM_GETFONT, 0, 0));
-    const HGDIOBJ oldFont = font != nullptr ? SelectObject(dc, font) : nullptr;
+    const WindowDc dc(dialog);
+    const SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(SendMessageA(dialog, WM_GETFONT, 0, 0)));
     TEXTMETRICA metrics{};
-    GetTextMetricsA(dc, &metrics);
-    if (oldFont != nullptr) {
-        SelectObject(dc, oldFont);
-    }
-    ReleaseDC(dialog, dc);
+    GetTextMetricsA(dc.get(), &metrics);
     measure.itemHeight = static_cast<UINT>(metrics.tmHeight) + kSpaceAroundLine;
 }
 
 void drawColourRow(const DRAWITEMSTRUCT& draw) {
     const bool selected = (draw.itemState & ODS_SELECTED) != 0;
-    fill(draw.hDC, draw.rcItem, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-    // A closed list without a selection asks for its field to be drawn, too: it has no row.
+    fillArea(draw.hDC, draw.rcItem, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    // The field of a combo box without a selection is drawn as row -1.
     if (draw.itemID != static_cast<UINT>(-1)) {
         drawSwatch(draw.hDC, draw.rcItem, static_cast<COLORREF>(draw.itemData));
         drawName(draw);

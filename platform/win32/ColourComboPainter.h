@@ -1,5 +1,5 @@
-// Draws the rows of the colour list: a swatch of the row's colour, then its
-// name. The list itself is the platform's, with its keyboard and type-ahead.
+// Draws the rows of the owner-drawn colour list: a swatch of the row's colour, then its name. Keyboard and type-ahead
+// stay those of the combo box.
 #pragma once
 
 #include <windows.h>

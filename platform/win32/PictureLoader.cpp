@@ -1,5 +1,4 @@
-// File, memory block, stream, picture object, bitmap: each step takes over
-// what the one before it made.
+// File, memory block, stream, picture object, bitmap: each step takes over what the one before it made.
 #include "platform/win32/PictureLoader.h"
 
 #include <ole2.h>
@@ -26,37 +25,28 @@ bool readInto(HGLOBAL block, HANDLE file, DWORD size) {
 }
 
 // The file's content as a movable block; null when it cannot be read.
-HGLOBAL readFile(const std::string& path, DWORD& size) {
-    const HANDLE file =
-        CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return nullptr;
+GlobalBlock readFile(const std::string& path, DWORD& size) {
+    const KernelHandle file = fileHandle(
+        CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    size = file ? usableSize(file.get()) : 0;
+    GlobalBlock block(size != 0 ? GlobalAlloc(GMEM_MOVEABLE, size) : nullptr);
+    if (block && !readInto(block.get(), file.get(), size)) {
+        block.reset();
     }
-    size = usableSize(file);
-    HGLOBAL block = size != 0 ? GlobalAlloc(GMEM_MOVEABLE, size) : nullptr;
-    if (block != nullptr && !readInto(block, file, size)) {
-        GlobalFree(block);
-        block = nullptr;
-    }
-    CloseHandle(file);
     return block;
 }
 
-IPicture* readPicture(const std::string& path) {
+ComPointer<IPicture> readPicture(const std::string& path) {
     DWORD size = 0;
-    const HGLOBAL block = readFile(path, size);
-    if (block == nullptr) {
-        return nullptr;
+    GlobalBlock block = readFile(path, size);
+    ComPointer<IStream> stream;
+    if (!block || FAILED(CreateStreamOnHGlobal(block.get(), TRUE, stream.receive()))) {
+        return {};
     }
-    IStream* stream = nullptr;
-    if (FAILED(CreateStreamOnHGlobal(block, TRUE, &stream))) {
-        GlobalFree(block);
-        return nullptr;
-    }
+    static_cast<void>(block.release());  // the stream frees it
     void* picture = nullptr;
-    const HRESULT result = OleLoadPicture(stream, static_cast<LONG>(size), FALSE, IID_IPicture, &picture);
-    stream->Release();  // and the block with it
-    return SUCCEEDED(result) ? static_cast<IPicture*>(picture) : nullptr;
+    const HRESULT result = OleLoadPicture(stream.get(), static_cast<LONG>(size), FALSE, IID_IPicture, &picture);
+    return ComPointer<IPicture>(SUCCEEDED(result) ? static_cast<IPicture*>(picture) : nullptr);
 }
 
 // Null for an icon or a metafile.
@@ -66,29 +56,26 @@ HBITMAP bitmapOf(IPicture& picture) {
     if (FAILED(picture.get_Type(&type)) || type != PICTYPE_BITMAP || FAILED(picture.get_Handle(&handle))) {
         return nullptr;
     }
-    // An OLE_HANDLE has 32 bits; a handle of 64 bits is such a number with its sign.
+    // An OLE_HANDLE keeps the low 32 bits; a 64-bit handle is their sign extension.
     return reinterpret_cast<HBITMAP>(static_cast<LONG_PTR>(static_cast<LONG>(handle)));
 }
 
 }  // namespace
 
-HBITMAP loadPictureFile(const std::string& path, int& width, int& height) {
+Bitmap loadPictureFile(const std::string& path, int& width, int& height) {
     width = height = 0;
-    IPicture* const picture = readPicture(path);
-    if (picture == nullptr) {
-        return nullptr;
-    }
-    const HBITMAP bitmap = bitmapOf(*picture);
+    ComPointer<IPicture> picture = readPicture(path);
+    const HBITMAP bitmap = picture ? bitmapOf(*picture.get()) : nullptr;
     BITMAP record{};
     if (bitmap == nullptr || GetObjectA(bitmap, sizeof record, &record) == 0) {
-        picture->Release();
-        return nullptr;
+        return {};
     }
     width = record.bmWidth;
     height = record.bmHeight;
-    // The picture object is never released: it owns the bitmap and would take it along, and the platform has no way to
-    // take it out. What stays behind is a few bytes for each picture loaded, which is one in the life of the program.
-    return bitmap;
+    // Intended: the picture object is never released. It would delete the bitmap, and cannot be told not to. It costs a
+    // few bytes for each picture, of which the program loads one.
+    static_cast<void>(picture.detach());
+    return Bitmap(bitmap);
 }
 
 }  // namespace korvane

@@ -1,8 +1,7 @@
-// The drag: from the press, which captures the mouse, to the release; Escape
-// or the loss of the capture call it off.
+// A drag lasts from the press, which captures the mouse, to the release. Escape or the loss of the capture cancel it.
 #include "platform/win32/Splitter.h"
 
-#include "platform/win32/Win32Dialog.h"
+#include "platform/win32/WindowFunctions.h"
 
 #include <algorithm>
 #include <memory>
@@ -12,21 +11,16 @@ namespace {
 
 constexpr char kClassName[] = "Korvane.Splitter";
 
-struct Range {
-    int left;
-    int right;
-};
-
 class Splitter {
 public:
-    Splitter(HWND window, Range range) : window_(window) {
-        const int left = rectInParent(window).left;
-        limits_ = {left - range.left, left + range.right};
-    }
+    Splitter(HWND window, SplitterRange range)
+        : window_(window),
+          leftmost_(rectInParent(window).left - range.left),
+          rightmost_(rectInParent(window).left + range.right) {}
     Splitter(const Splitter&) = delete;
     Splitter& operator=(const Splitter&) = delete;
 
-    // False: the message is none of the splitter's.
+    // False for a message that the splitter does not handle.
     bool handle(UINT message, WPARAM wParam, int mouseX) {
         switch (message) {
             case WM_LBUTTONDOWN: begin(mouseX); return true;
@@ -43,8 +37,8 @@ public:
     }
 
 private:
-    // The divider itself stays until the release; a line above all else shows where it would go. The keyboard comes
-    // along, so that Escape ends the drag and not the program.
+    // The splitter itself stays until the release; a line above all other windows shows where it would go. It takes the
+    // focus, so that Escape cancels the drag and does not close the program.
     void begin(int mouseX) {
         end();
         start_ = rectInParent(window_);
@@ -52,14 +46,15 @@ private:
         line_ = CreateWindowExA(0, "Static", "", WS_CHILD | WS_CLIPSIBLINGS | WS_DISABLED | SS_BLACKRECT, start_.left,
                                 start_.top, start_.width(), start_.height(), GetParent(window_), nullptr, nullptr,
                                 nullptr);
-        SetWindowPos(line_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        moveToTop(line_);
+        ShowWindow(line_, SW_SHOWNA);
         oldFocus_ = SetFocus(window_);
         SetCapture(window_);
         dragging_ = true;
     }
 
     int leftFor(int mouseX) const {
-        return std::clamp(start_.left + mouseX - pressedAt_, limits_.left, limits_.right);
+        return std::clamp(start_.left + mouseX - pressedAt_, leftmost_, rightmost_);
     }
 
     void follow(int mouseX) {
@@ -80,7 +75,7 @@ private:
         }
     }
 
-    // Releasing the capture tells the window that it has lost it: by then the drag is over.
+    // ReleaseCapture sends WM_CAPTURECHANGED, which comes back here: the drag has to be over by then.
     void end() {
         if (!dragging_) {
             return;
@@ -110,7 +105,8 @@ private:
     }
 
     HWND window_;
-    Range limits_{};  // of the left edge
+    int leftmost_;  // of the left edge
+    int rightmost_;
     bool dragging_ = false;
     Rect start_{};
     int pressedAt_ = 0;
@@ -123,7 +119,7 @@ LRESULT CALLBACK splitterProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     switch (message) {
         case WM_CREATE: {
             const auto& create = *reinterpret_cast<const CREATESTRUCTA*>(lParam);
-            auto made = std::make_unique<Splitter>(window, *static_cast<const Range*>(create.lpCreateParams));
+            auto made = std::make_unique<Splitter>(window, *static_cast<const SplitterRange*>(create.lpCreateParams));
             SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made.release()));
             return 0;
         }
@@ -131,7 +127,7 @@ LRESULT CALLBACK splitterProc(HWND window, UINT message, WPARAM wParam, LPARAM l
             SetWindowLongPtrA(window, GWLP_USERDATA, 0);
             delete splitter;
             return 0;
-        case WM_GETDLGCODE: return DLGC_WANTALLKEYS;  // it has the keyboard only while it is dragged
+        case WM_GETDLGCODE: return DLGC_WANTALLKEYS;  // it has the focus only while it is dragged
         default:
             return splitter != nullptr && splitter->handle(message, wParam, static_cast<short>(LOWORD(lParam)))
                        ? 0
@@ -151,8 +147,7 @@ void registerSplitterClass(HINSTANCE instance) {
     RegisterClassA(&windowClass);
 }
 
-HWND createSplitter(HINSTANCE instance, HWND parent, int id, const Rect& rect, int rangeLeft, int rangeRight) {
-    Range range{rangeLeft, rangeRight};
+HWND createSplitter(HINSTANCE instance, HWND parent, int id, const Rect& rect, SplitterRange range) {
     return CreateWindowExA(0, kClassName, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, rect.left, rect.top,
                            rect.width(), rect.height(), parent,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, &range);

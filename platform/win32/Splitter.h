@@ -1,6 +1,5 @@
-// The vertical divider between tree and pages: a narrow window that can be
-// dragged sideways. It moves itself and tells its parent how far, which moves
-// everything else.
+// The splitter between tree and pages: a narrow window that is dragged sideways. It moves itself and tells its parent
+// how far; the parent moves everything else.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -9,7 +8,7 @@
 
 namespace korvane {
 
-// WM_NOTIFY to the parent after a drag that moved the divider.
+// WM_NOTIFY to the parent after a drag that moved the splitter.
 constexpr UINT kSplitterMoved = 1;
 
 struct SplitterNotification {
@@ -19,7 +18,13 @@ struct SplitterNotification {
 
 void registerSplitterClass(HINSTANCE instance);
 
-// The divider's centre stays between so many pixels left and right of where it is at first. Null if there is no memory.
-HWND createSplitter(HINSTANCE instance, HWND parent, int id, const Rect& rect, int rangeLeft, int rangeRight);
+// How far the splitter can be dragged from where it is made, in pixels.
+struct SplitterRange {
+    int left;
+    int right;
+};
+
+// Null if the window could not be made.
+HWND createSplitter(HINSTANCE instance, HWND parent, int id, const Rect& rect, SplitterRange range);
 
 }  // namespace korvane

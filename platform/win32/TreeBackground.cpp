@@ -1,6 +1,8 @@
-// Two drawings of the rows and one of the picture, put together pixel by
-// pixel.
+// Two drawings of the rows and one of the picture, merged pixel by pixel.
 #include "platform/win32/TreeBackground.h"
+
+#include "platform/win32/PaintBuffer.h"
+#include "platform/win32/WindowFunctions.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,57 +14,7 @@ namespace {
 constexpr std::uint32_t kColourBits = 0xFFFFFF;  // the fourth byte is not in use
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-// A picture in memory with direct access to its pixels, 0x00RRGGBB.
-class Canvas {
-public:
-    Canvas(HDC like, SIZE size) : dc_(CreateCompatibleDC(like)), width_(size.cx) {
-        BITMAPINFO form{};
-        form.bmiHeader.biSize = sizeof form.bmiHeader;
-        form.bmiHeader.biWidth = size.cx;
-        form.bmiHeader.biHeight = -size.cy;  // the top row comes first
-        form.bmiHeader.biPlanes = 1;
-        form.bmiHeader.biBitCount = 32;
-        void* pixels = nullptr;
-        bitmap_ = CreateDIBSection(like, &form, DIB_RGB_COLORS, &pixels, nullptr, 0);
-        pixels_ = static_cast<std::uint32_t*>(pixels);
-        if (isReady()) {
-            oldBitmap_ = SelectObject(dc_, bitmap_);
-        }
-    }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-    ~Canvas() {
-        if (isReady()) {
-            SelectObject(dc_, oldBitmap_);
-        }
-        if (bitmap_ != nullptr) {
-            DeleteObject(bitmap_);
-        }
-        if (dc_ != nullptr) {
-            DeleteDC(dc_);
-        }
-    }
-
-    bool isReady() const { return dc_ != nullptr && bitmap_ != nullptr; }
-    HDC dc() const { return dc_; }
-    std::uint32_t* row(LONG y) const { return pixels_ + static_cast<std::ptrdiff_t>(y) * width_; }
-
-private:
-    HDC dc_;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ oldBitmap_ = nullptr;
-    std::uint32_t* pixels_ = nullptr;
-    LONG width_;
-};
-
-void fill(HDC dc, SIZE size, COLORREF colour) {
-    const RECT area{0, 0, size.cx, size.cy};
-    const HBRUSH brush = CreateSolidBrush(colour);
-    FillRect(dc, &area, brush);
-    DeleteObject(brush);
-}
-
-// One as far from the given one as there is, in each channel.
+// As far from the colour as each channel allows.
 COLORREF contrastTo(COLORREF colour) {
     const auto opposite = [](int channel) { return channel < 128 ? 255 : 0; };
     return RGB(opposite(GetRValue(colour)), opposite(GetGValue(colour)), opposite(GetBValue(colour)));
@@ -70,7 +22,7 @@ COLORREF contrastTo(COLORREF colour) {
 
 int channelOf(std::uint32_t pixel, int channel) { return static_cast<int>(pixel >> (8 * channel) & 0xFF); }
 
-// Exchanges the window colour behind the rows for the tinted picture.
+// Replaces the window colour behind the rows by the tinted picture.
 class Blend {
 public:
     Blend(COLORREF window, COLORREF contrast) {
@@ -85,12 +37,12 @@ public:
         for (int i = 0; i < kChannels; ++i) {
             const int own = channelOf(onWindow, i);
             const int tinted = channelOf(picture, i) * window_[i] / 255;
-            // How much of the background shows: all of it when the two drawings differ as the two colours do.
+            // The share of the background: all of it where the two drawings differ as much as the two colours.
             const int whole = window_[i] - contrast_[i];
             const int shown = whole > 0 ? std::clamp(own - channelOf(onContrast, i), 0, whole)
                                         : std::clamp(own - channelOf(onContrast, i), whole, 0);
-            const int exchanged = own + (tinted - window_[i]) * shown / whole;
-            blended |= static_cast<std::uint32_t>(std::clamp(exchanged, 0, 255)) << (8 * i);
+            const int replaced = own + (tinted - window_[i]) * shown / whole;
+            blended |= static_cast<std::uint32_t>(std::clamp(replaced, 0, 255)) << (8 * i);
         }
         return blended;
     }
@@ -101,62 +53,52 @@ private:
     int contrast_[kChannels];
 };
 
-void blendRow(const Blend& blend, std::uint32_t* onWindow, const std::uint32_t* onContrast,
-              const std::uint32_t* picture, LONG left, LONG right) {
-    for (LONG x = left; x < right; ++x) {
-        // White is the window colour; most of the picture is.
-        if ((picture[x] & kColourBits) != kWhite) {
-            onWindow[x] = blend(onWindow[x], onContrast[x], picture[x]);
-        }
-    }
-}
-
 }  // namespace
 
-bool isHighContrastOn() {
-    HIGHCONTRASTA setting{};
-    setting.cbSize = sizeof setting;
-    return SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
-           (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
+bool TreeBackground::isShown() const { return bitmap_ != nullptr && !isHighContrastOn(); }
 
 void TreeBackground::drawPicture(HDC dc, SIZE client) const {
-    fill(dc, client, RGB(255, 255, 255));
+    fillArea(dc, {0, 0, client.cx, client.cy}, RGB(255, 255, 255));
     BITMAP record{};
     GetObjectA(bitmap_, sizeof record, &record);
-    const HDC source = CreateCompatibleDC(dc);
-    const HGDIOBJ old = SelectObject(source, bitmap_);
-    BitBlt(dc, client.cx - record.bmWidth, client.cy - record.bmHeight, record.bmWidth, record.bmHeight, source, 0, 0,
-           SRCCOPY);
-    SelectObject(source, old);
-    DeleteDC(source);
+    const MemoryDc source(CreateCompatibleDC(dc));
+    const SelectedObject picture(source.get(), bitmap_);
+    BitBlt(dc, client.cx - record.bmWidth, client.cy - record.bmHeight, record.bmWidth, record.bmHeight, source.get(), 0,
+           0, SRCCOPY);
 }
 
 bool TreeBackground::paint(HDC target, SIZE client, const RECT& part, COLORREF windowColour,
                            const DrawRows& drawRows) const {
-    const Canvas rows(target, client);
-    const Canvas contrasting(target, client);
-    const Canvas picture(target, client);
-    if (!rows.isReady() || !contrasting.isReady() || !picture.isReady()) {
+    PaintBuffer rows(client.cx, client.cy);
+    PaintBuffer contrasting(client.cx, client.cy);
+    PaintBuffer picture(client.cx, client.cy);
+    if (!rows.valid() || !contrasting.valid() || !picture.valid()) {
         return false;
     }
     const COLORREF contrast = contrastTo(windowColour);
-    const auto drawOn = [&](const Canvas& canvas, COLORREF colour) {
-        fill(canvas.dc(), client, colour);
-        drawRows(canvas.dc(), colour);
+    const auto drawOn = [&](const PaintBuffer& buffer, COLORREF colour) {
+        fillArea(buffer.dc(), {0, 0, client.cx, client.cy}, colour);
+        drawRows(buffer.dc(), colour);
     };
     drawOn(contrasting, contrast);
     drawOn(rows, windowColour);
     drawPicture(picture.dc(), client);
-    GdiFlush();  // before the pixels are touched
     const Blend blend(windowColour, contrast);
     const RECT clipped{std::max(part.left, 0L), std::max(part.top, 0L), std::min(part.right, client.cx),
                        std::min(part.bottom, client.cy)};
+    std::uint32_t* const onWindow = rows.pixels();
+    const std::uint32_t* const onContrast = contrasting.pixels();
+    const std::uint32_t* const behind = picture.pixels();
     for (LONG y = clipped.top; y < clipped.bottom; ++y) {
-        blendRow(blend, rows.row(y), contrasting.row(y), picture.row(y), clipped.left, clipped.right);
+        const std::ptrdiff_t row = static_cast<std::ptrdiff_t>(y) * rows.width();
+        for (std::ptrdiff_t at = row + clipped.left; at < row + clipped.right; ++at) {
+            // White is the window colour; most of the picture is white.
+            if ((behind[at] & kColourBits) != kWhite) {
+                onWindow[at] = blend(onWindow[at], onContrast[at], behind[at]);
+            }
+        }
     }
-    BitBlt(target, clipped.left, clipped.top, clipped.right - clipped.left, clipped.bottom - clipped.top, rows.dc(),
-           clipped.left, clipped.top, SRCCOPY);
+    rows.copyPartTo(target, clipped);
     return true;
 }
 

@@ -7,31 +7,23 @@
 
 namespace korvane {
 
-// Whether the user has asked the system for colours that differ as much as possible.
-bool isHighContrastOn();
-
-// Lies at the window's lower right corner and does not move when the rows scroll; around it is the window colour. The
-// picture is tinted with the window colour, white becoming that colour: where windows are dark it stays as dark as they
-// are, so text is as readable as without it.
+// The picture stays at the lower right corner of the window when the rows scroll; around it is the window colour. It is
+// tinted with the window colour, so white becomes that colour and a dark window stays dark enough for its light text.
 //
-// The tree view has no notion of a picture: it fills the background of its texts. It is therefore asked to draw itself
-// twice, on the window colour and on another one. Where the two drawings differ, the background shows through, and by
-// how much they differ tells how far: so the picture can be put exactly there, behind the smoothed edges of letters as
-// well, and the rows look as they do without a picture on every Windows.
+// A tree view knows nothing of pictures and fills the background of its texts. So it draws itself twice, on the window
+// colour and on a contrasting one. Where the two drawings differ, the background shows through, and the more they differ
+// the more of it: that is where, and how strongly, the picture is put, behind the smoothed edges of letters too. The rows
+// then look as they do without a picture, whatever the version of Windows.
 class TreeBackground {
 public:
-    using Question = bool (*)();
-
-    explicit TreeBackground(Question highContrast = isHighContrastOn) : highContrast_(highContrast) {}
-
     // Draws the whole client area of the tree on a background of that colour.
     using DrawRows = std::function<void(HDC, COLORREF)>;
 
-    // The bitmap is borrowed; null: there is no picture.
+    // The bitmap is borrowed; null for no picture.
     void setPicture(HBITMAP bitmap) { bitmap_ = bitmap; }
 
-    // False without a picture, and while the user wants high contrast.
-    bool isShown() const { return bitmap_ != nullptr && !highContrast_(); }
+    // False without a picture and under high contrast.
+    bool isShown() const;
 
     // Draws rows and picture in the given part of the client area. False, with nothing drawn, when memory is short.
     bool paint(HDC target, SIZE client, const RECT& part, COLORREF windowColour, const DrawRows& drawRows) const;
@@ -39,7 +31,6 @@ public:
 private:
     void drawPicture(HDC dc, SIZE client) const;
 
-    Question highContrast_;
     HBITMAP bitmap_ = nullptr;
 };
 

@@ -1,8 +1,10 @@
-// The operations of the seam as messages. The window passes messages of the
-// tree view and of the header on to the one or the other.
+// Each operation is a message to the window, which forwards it to its tree view or its header.
 #include "platform/win32/TreeListCtrl.h"
 
 #include "platform/win32/PictureLoader.h"
+#include "platform/win32/WindowFunctions.h"
+
+#include <utility>
 
 namespace korvane {
 namespace {
@@ -22,18 +24,12 @@ TVITEMA itemToChange(CTreeListItem item, UINT mask) {
     return change;
 }
 
-// The platform's structures for setting a text ask for a pointer to writable text, which they do not write to.
-LPSTR inputText(const std::string& text) { return const_cast<LPSTR>(text.c_str()); }
-
 }  // namespace
 
 void Win32TreeListCtrl::Background::load(const std::string& path, int& width, int& height) {
-    const HBITMAP old = bitmap_;
-    bitmap_ = loadPictureFile(path, width, height);
-    SendMessageA(window_, kTreeSetPicture, reinterpret_cast<WPARAM>(bitmap_), 0);
-    if (old != nullptr) {
-        DeleteObject(old);
-    }
+    Bitmap loaded = loadPictureFile(path, width, height);
+    SendMessageA(window_, kTreeSetPicture, reinterpret_cast<WPARAM>(loaded.get()), 0);
+    bitmap_ = std::move(loaded);
 }
 
 LRESULT Win32TreeListCtrl::send(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -44,14 +40,14 @@ void Win32TreeListCtrl::changeItem(TVITEMA& item) const { send(TVM_SETITEMA, 0, 
 
 void Win32TreeListCtrl::SetImageList() { send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_)); }
 
-void Win32TreeListCtrl::InsertColumn(std::string_view heading, std::uint32_t, int width, int, int, int order) {
-    const std::string text(heading);
+void Win32TreeListCtrl::InsertColumn(const TreeColumn& wanted) {
+    const std::string text(wanted.heading);
     HDITEMA column{};
     column.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
     column.fmt = HDF_LEFT | HDF_STRING;
-    column.cxy = width;
+    column.cxy = wanted.width;
     column.pszText = inputText(text);
-    send(HDM_INSERTITEMA, static_cast<WPARAM>(order), reinterpret_cast<LPARAM>(&column));
+    send(HDM_INSERTITEMA, static_cast<WPARAM>(wanted.order), reinterpret_cast<LPARAM>(&column));
 }
 
 void Win32TreeListCtrl::SetColumnWidth(int column, int width, int, int) {

@@ -1,9 +1,9 @@
-// The tree's window class: a container with a heading above the platform's own
-// tree view, which brings the keyboard, the wheel and the screen reader along.
-// It sends kTreeSelectionChanged to its parent when the selection changes.
+// The tree's window class: a container with a header above the tree view of Windows, which brings keyboard, wheel and
+// accessibility along. It sends kTreeSelectionChanged to its parent when the selection changes.
 #pragma once
 
 #include "platform/TreeListCtrl.h"
+#include "platform/win32/Handles.h"
 
 #include <windows.h>
 #include <commctrl.h>
@@ -12,15 +12,15 @@ namespace korvane {
 
 constexpr char kTreeListClass[] = "Trellis.TreeListCtrl";
 constexpr UINT kTreeSelectionChanged = WM_USER + 202;
-// To the window: wParam is the bitmap to be drawn behind the rows, which it borrows, or null for none.
+// To the window: wParam is the bitmap to draw behind the rows, which it borrows, or null for none.
 constexpr UINT kTreeSetPicture = WM_USER + 210;
 
-// Needed before a dialog with such a control can be made.
+// Call before a dialog with such a control is made.
 void registerTreeListClass(HINSTANCE instance);
 
-// The operations on one such window. It knows one style (lines, buttons, the selection always shown), one kind of
-// column (left-aligned, its edge cannot be dragged), and for every row two images, as the platform's tree does: those
-// for the expanded row are not used.
+// The operations on one such window. It has one style (lines, buttons, the selection always shown), one kind of column
+// (left-aligned, not resizable by the user), and two images for every row, like any tree view: the two for expanded rows
+// are ignored.
 class Win32TreeListCtrl final : public CTreeListCtrl {
 public:
     // The window is borrowed, and so is the image list, which is the window's from SetImageList on.
@@ -29,8 +29,7 @@ public:
 
     void SetStyle(std::uint32_t) override {}
     void SetImageList() override;
-    void InsertColumn(std::string_view heading, std::uint32_t format, int width, int image, int subItem,
-                      int order) override;
+    void InsertColumn(const TreeColumn& column) override;
     void SetColumnModify(int, int) override {}
     void SetColumnWidth(int column, int width, int minimum, int maximum) override;
     BackgroundImage& GetBGImage() override { return background_; }
@@ -51,7 +50,7 @@ private:
 
     private:
         HWND window_;
-        HBITMAP bitmap_ = nullptr;  // stays until the next one is loaded or the program ends
+        Bitmap bitmap_;
     };
 
     LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) const;

@@ -1,7 +1,8 @@
-// The window itself: heading and tree view, one below the other, and the few
-// things in which it differs from the platform's tree view.
+// The window itself: a header, below it a tree view, and the few things in which that differs from a plain one.
+#include "platform/win32/PaintBuffer.h"
 #include "platform/win32/TreeBackground.h"
 #include "platform/win32/TreeListCtrl.h"
+#include "platform/win32/WindowFunctions.h"
 
 #include <memory>
 
@@ -9,7 +10,7 @@ namespace korvane {
 namespace {
 
 constexpr UINT kMessagesOfOneControl = 0x100;
-constexpr COLORREF kSystemColour = 0xFFFFFFFF;  // of a tree view that was given no background colour
+constexpr COLORREF kSystemColour = 0xFFFFFFFF;  // what a tree view without a background colour of its own returns
 
 bool isOf(UINT message, UINT first) { return message >= first && message < first + kMessagesOfOneControl; }
 
@@ -27,7 +28,7 @@ bool movesSelection(WPARAM key) {
     }
 }
 
-// What makes a tree view scroll its window's pixels, or move some of them up or down.
+// Messages at which a tree view may scroll the pixels of its window.
 bool movesRows(UINT message) {
     constexpr UINT kHorizontalWheel = 0x020E;  // of Windows Vista
     switch (message) {
@@ -122,8 +123,8 @@ LRESULT CALLBACK TreeListWindow::windowProc(HWND window, UINT message, WPARAM wP
     return self->handle(message, wParam, lParam);
 }
 
-// What comes for the tree or for the heading is passed on, so that the window can be used as if it were the tree. (The
-// wheel is not: a tree view passes on to its parent what it does not need itself.)
+// Messages of a tree view or a header are forwarded, so the window is used as if it were the tree. The wheel is not
+// forwarded: a tree view sends to its parent what it does not use itself, which would go round for ever.
 LRESULT TreeListWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     if (isOf(message, TV_FIRST) || isOf(message, CCM_FIRST)) {
         return SendMessageA(tree_, message, wParam, lParam);
@@ -138,7 +139,7 @@ LRESULT TreeListWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_ENABLE: EnableWindow(tree_, wParam != 0); return 0;
         case WM_SIZE: layOut(); return 0;
         case WM_SETFONT: setFont(wParam, lParam); return 0;
-        case WM_ERASEBKGND: return 1;  // heading and tree cover everything
+        case WM_ERASEBKGND: return 1;  // header and tree cover everything
         case WM_GETFONT:
         case WM_KEYDOWN:
         case WM_KEYUP:
@@ -149,13 +150,13 @@ LRESULT TreeListWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT TreeListWindow::onNotify(const NMHDR& notification) {
     switch (notification.code) {
-        // A tree view selects its first row when it gets the focus; here nothing is selected until the user does.
+        // A tree view selects its first row when it gets the focus; here the user selects first.
         case TVN_SELCHANGINGA:
         case TVN_SELCHANGINGW: return gettingFocus_ && !hasSelection();
         case TVN_SELCHANGEDA:
         case TVN_SELCHANGEDW:
             if (!changingRows_) {
-                resumeDrawing();  // what the parent does may take long, or show a message box
+                resumeDrawing();  // the parent may take long, or show a message box
                 SendMessageA(GetParent(window_), kTreeSelectionChanged, 0, 0);
             }
             return 0;
@@ -208,16 +209,15 @@ LRESULT TreeListWindow::handleOverPicture(UINT message, WPARAM wParam, LPARAM lP
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK: return onPress(message, wParam, lParam);
-        case WM_SIZE: {  // the picture moves with the corner
+        case WM_SIZE: {  // the picture stays in the corner
             const LRESULT result = callTreeView(message, wParam, lParam);
             InvalidateRect(tree_, nullptr, FALSE);
             return result;
         }
-        case WM_PAINT:  // with a device context in which to paint
+        case WM_PAINT:  // into a given device context
         case WM_PRINTCLIENT: {
-            RECT client{};
-            GetClientRect(tree_, &client);
-            return paintOverPicture(reinterpret_cast<HDC>(wParam), client)
+            const SIZE client = clientSize(tree_);
+            return paintOverPicture(reinterpret_cast<HDC>(wParam), {0, 0, client.cx, client.cy})
                        ? 0
                        : callTreeView(message, wParam, lParam);
         }
@@ -247,7 +247,7 @@ void TreeListWindow::layOut() {
     MoveWindow(tree_, 0, place.cy, area.right, area.bottom - place.cy, TRUE);
 }
 
-// Keeps the heading above what is scrolled sideways.
+// The header scrolls sideways with the tree.
 void TreeListWindow::alignHeader() {
     SCROLLINFO scroll{};
     scroll.cbSize = sizeof scroll;
@@ -276,15 +276,15 @@ LRESULT TreeListWindow::onPress(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_LBUTTONDBLCLK) {
         return moveRows(message, wParam, lParam);
     }
-    // A press waits for a drag, during which the tree has to be seen.
+    // A tree view waits here for a drag to begin, so drawing must not be off meanwhile.
     const LRESULT result = callTreeView(message, wParam, lParam);
     InvalidateRect(tree_, nullptr, FALSE);
     return result;
 }
 
-// A tree view scrolls the pixels of its window, and would drag the picture along. The platform's default procedure
-// makes a window without drawing one that counts as hidden (the tree view itself would only remember not to draw), so
-// nothing is moved, and all is painted once afterwards. A window that is really hidden must not become visible by this.
+// A tree view scrolls the pixels of its window and would take the picture along. DefWindowProc answers WM_SETREDRAW by
+// taking WS_VISIBLE away, so no pixels are scrolled, and everything is painted once afterwards; the tree view's own
+// answer would only put off its drawing. A tree that is hidden must not become visible by this.
 LRESULT TreeListWindow::moveRows(UINT message, WPARAM wParam, LPARAM lParam) {
     if (drawingPaused_ || (GetWindowLongA(tree_, GWL_STYLE) & WS_VISIBLE) == 0) {
         return callTreeView(message, wParam, lParam);
@@ -304,42 +304,34 @@ void TreeListWindow::resumeDrawing() {
     }
 }
 
-// Whatever has scrolled the rows, they are painted afterwards, which makes this the place to look where the heading
-// belongs.
+// Whatever scrolled the rows, they are painted afterwards: so this is where the header follows.
 void TreeListWindow::paintTree() {
-    PAINTSTRUCT paint{};
-    const HDC screen = BeginPaint(tree_, &paint);
-    if (background_.isShown() && paintOverPicture(screen, paint.rcPaint)) {
-        ValidateRect(tree_, nullptr);  // a change of the background colour asks for another painting
-    } else {
-        paintPlain(screen, paint.rcPaint);
+    {
+        const PaintDc screen(tree_);
+        if (background_.isShown() && paintOverPicture(screen.get(), screen.updateArea())) {
+            ValidateRect(tree_, nullptr);  // changing the background colour has invalidated the tree
+        } else {
+            paintPlain(screen.get(), screen.updateArea());
+        }
     }
-    EndPaint(tree_, &paint);
     alignHeader();
 }
 
-// The tree view draws into a picture in memory, which then comes to the screen at once: nothing flickers.
 void TreeListWindow::paintPlain(HDC screen, const RECT& part) {
-    RECT client{};
-    GetClientRect(tree_, &client);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP picture = CreateCompatibleBitmap(screen, client.right, client.bottom);
-    const HGDIOBJ oldPicture = SelectObject(memory, picture);
-    FillRect(memory, &client, GetSysColorBrush(COLOR_WINDOW));
-    callTreeView(WM_PAINT, reinterpret_cast<WPARAM>(memory), 0);
-    BitBlt(screen, part.left, part.top, part.right - part.left, part.bottom - part.top, memory, part.left, part.top,
-           SRCCOPY);
-    SelectObject(memory, oldPicture);
-    DeleteObject(picture);
-    DeleteDC(memory);
+    const SIZE client = clientSize(tree_);
+    const PaintBuffer buffer(client.cx, client.cy);
+    const HDC target = buffer.valid() ? buffer.dc() : screen;  // without memory it flickers
+    fillArea(target, {0, 0, client.cx, client.cy}, GetSysColor(COLOR_WINDOW));
+    callTreeView(WM_PAINT, reinterpret_cast<WPARAM>(target), 0);
+    if (buffer.valid()) {
+        buffer.copyPartTo(screen, part);
+    }
 }
 
 bool TreeListWindow::paintOverPicture(HDC target, const RECT& part) {
-    RECT client{};
-    GetClientRect(tree_, &client);
     const auto own = static_cast<COLORREF>(callTreeView(TVM_GETBKCOLOR, 0, 0));
     const bool isPainted = background_.paint(
-        target, {client.right, client.bottom}, part, own == kSystemColour ? GetSysColor(COLOR_WINDOW) : own,
+        target, clientSize(tree_), part, own == kSystemColour ? GetSysColor(COLOR_WINDOW) : own,
         [this](HDC dc, COLORREF background) {
             callTreeView(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(background));
             callTreeView(WM_PAINT, reinterpret_cast<WPARAM>(dc), 0);

@@ -1,27 +1,16 @@
-// Each verb is one message or call, apart from the few places where the
-// control needs two for what the verb says.
+// Each verb is one message or call, but for a few that need two.
 #include "platform/win32/Win32Dialog.h"
+
+#include "platform/win32/WindowFunctions.h"
 
 #include <commctrl.h>
 
 namespace korvane {
 namespace {
 
-// What a row's check box is called in its state: the first image of the list is the empty box, the second the ticked.
+// A row's check box is its state image: the first is the empty box, the second the checked one.
 constexpr UINT kEmptyBox = 1;
-constexpr UINT kTickedBox = 2;
-
-std::string windowText(HWND window) {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
-    const int length = GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1);
-    text.resize(static_cast<std::size_t>(length));
-    return text;
-}
-
-bool isComboBox(HWND window) {
-    char name[16];
-    return GetClassNameA(window, name, sizeof name) != 0 && lstrcmpiA(name, "ComboBox") == 0;
-}
+constexpr UINT kCheckedBox = 2;
 
 void place(HWND window, const Rect& rect, int height) {
     MoveWindow(window, rect.left, rect.top, rect.width(), height, TRUE);
@@ -29,19 +18,7 @@ void place(HWND window, const Rect& rect, int height) {
 
 LPARAM pointerParameter(const void* pointer) { return reinterpret_cast<LPARAM>(pointer); }
 
-// The platform's structures for setting a text ask for a pointer to writable text, which they do not write to.
-LPSTR inputText(const std::string& text) { return const_cast<LPSTR>(text.c_str()); }
-
 }  // namespace
-
-Rect rectInParent(HWND window) {
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    if (GetWindowLongA(window, GWL_STYLE) & WS_CHILD) {
-        MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&rect), 2);
-    }
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
 
 HWND Win32Dialog::control(int id) const {
     if (id != lastId_ || !IsWindow(lastControl_)) {
@@ -75,7 +52,7 @@ void Win32Dialog::endDialog(int result) { EndDialog(dialog_, result); }
 std::vector<int> Win32Dialog::controlIds() {
     std::vector<int> ids;
     for (HWND child = GetWindow(dialog_, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        // A dialog template keeps 16 bits of an id: a picture's -1 comes back as 65535.
+        // A dialog template keeps 16 bits of an id: the -1 of a static comes back as 65535.
         ids.push_back(static_cast<short>(GetDlgCtrlID(child)));
     }
     return ids;
@@ -93,13 +70,13 @@ void Win32Dialog::setText(int id, std::string_view text) {
 
 Rect Win32Dialog::controlRect(int id) { return rectInParent(control(id)); }
 
-// A combo box takes the height it is given for that of its open list, and keeps that of its field: it is given the
-// height of the list that it has.
+// A combo box takes a new height for that of its drop-down list and keeps that of its field, so it is given the height
+// that the list has already.
 void Win32Dialog::moveControl(int id, const Rect& rect) {
     const HWND window = control(id);
     int height = rect.height();
     RECT open{};
-    if (isComboBox(window) && SendMessageA(window, CB_GETDROPPEDCONTROLRECT, 0, pointerParameter(&open)) != 0) {
+    if (isOfClass(window, "ComboBox") && SendMessageA(window, CB_GETDROPPEDCONTROLRECT, 0, pointerParameter(&open)) != 0) {
         height = open.bottom - open.top;
     }
     place(window, rect, height);
@@ -141,7 +118,7 @@ std::uint32_t Win32Dialog::comboData(int id, int index) {
 
 int Win32Dialog::comboCount(int id) { return static_cast<int>(send(id, CB_GETCOUNT, 0, 0)); }
 
-// Not every system clears the selection by itself when there is no such entry.
+// Not every Windows clears the selection when the index is beyond the last entry.
 void Win32Dialog::selectComboEntry(int id, int index) {
     if (send(id, CB_SETCURSEL, static_cast<WPARAM>(index), 0) == CB_ERR) {
         send(id, CB_SETCURSEL, static_cast<WPARAM>(kNoSelection), 0);
@@ -154,8 +131,8 @@ int Win32Dialog::comboSelection(int id) { return static_cast<int>(send(id, CB_GE
 
 void Win32Dialog::setListStyle(int id, std::uint32_t extendedStyle, Colour background) {
     send(id, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(extendedStyle));
-    // The cells have a background of their own.
     send(id, LVM_SETBKCOLOR, 0, static_cast<LPARAM>(background));
+    // The texts do not follow the background of the list.
     send(id, LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(background));
 }
 
@@ -210,8 +187,8 @@ int Win32Dialog::selectedRow(int id) {
 void Win32Dialog::setRowCheck(int id, int row, bool checked) {
     LVITEMA item{};
     item.stateMask = LVIS_STATEIMAGEMASK;
-    item.state = INDEXTOSTATEIMAGEMASK(checked ? kTickedBox : kEmptyBox);
-    // Row -1 would mean every row.
+    item.state = INDEXTOSTATEIMAGEMASK(checked ? kCheckedBox : kEmptyBox);
+    // To the list, row -1 means every row.
     if (row >= 0) {
         send(id, LVM_SETITEMSTATE, static_cast<WPARAM>(row), pointerParameter(&item));
     }
@@ -219,7 +196,7 @@ void Win32Dialog::setRowCheck(int id, int row, bool checked) {
 
 bool Win32Dialog::rowCheck(int id, int row) {
     const LRESULT state = send(id, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK);
-    return state == INDEXTOSTATEIMAGEMASK(kTickedBox);
+    return state == INDEXTOSTATEIMAGEMASK(kCheckedBox);
 }
 
 }  // namespace korvane

@@ -1,4 +1,4 @@
-// The controls of one real dialog, by the messages that Windows has for them.
+// The controls of one real dialog, through the messages that Windows has for them.
 #pragma once
 
 #include "platform/DialogControls.h"
@@ -6,9 +6,6 @@
 #include <windows.h>
 
 namespace korvane {
-
-// A window's rectangle in its parent's client area; a window that has no parent stands on the screen.
-Rect rectInParent(HWND window);
 
 class Win32Dialog final : public DialogControls {
 public:
@@ -59,11 +56,11 @@ public:
 
 private:
     HWND control(int id) const;
-    // The answer of a control that does not exist is `missing`.
+    // `missing` is returned for a control that does not exist.
     LRESULT send(int id, UINT message, WPARAM wParam, LPARAM lParam, LRESULT missing = 0) const;
 
     HWND dialog_;
-    // Where the control asked for last is: filling a list of ten thousand numbers must not search for it each time.
+    // The control used last: filling a combo box with ten thousand numbers must not search the dialog each time.
     mutable int lastId_ = 0;
     mutable HWND lastControl_ = nullptr;
 };

@@ -2,23 +2,9 @@
 #include "platform/win32/Win32DialogHost.h"
 
 #include "platform/win32/ColourComboPainter.h"
+#include "platform/win32/WindowFunctions.h"
 
 namespace korvane {
-
-void centreWindow(HWND window) {
-    RECT area{};
-    const HWND owner = GetWindow(window, GW_OWNER);
-    if (owner != nullptr) {
-        GetWindowRect(owner, &area);
-    } else {
-        SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    }
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    const int left = (area.left + area.right - (rect.right - rect.left)) / 2;
-    const int top = (area.top + area.bottom - (rect.bottom - rect.top)) / 2;
-    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 HWND Win32DialogHost::create(HINSTANCE instance, int templateId, HWND parent) {
     return CreateDialogParamA(instance, MAKEINTRESOURCEA(templateId), parent, dialogProc,
@@ -31,10 +17,9 @@ void Win32DialogHost::runModal(HINSTANCE instance, int templateId, HWND owner) {
 
 INT_PTR CALLBACK Win32DialogHost::dialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_INITDIALOG: {
+        case WM_INITDIALOG:
             SetWindowLongPtrA(window, DWLP_USER, lParam);
             return reinterpret_cast<Win32DialogHost*>(lParam)->onInitDialog(window);
-        }
         case WM_MEASUREITEM:  // comes before WM_INITDIALOG
             measureColourRow(window, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
             return TRUE;
@@ -49,13 +34,13 @@ INT_PTR CALLBACK Win32DialogHost::dialogProc(HWND window, UINT message, WPARAM w
 
 INT_PTR Win32DialogHost::onInitDialog(HWND window) {
     dialog_.emplace(window);
-    // The dialog does not erase what its controls paint, which would flicker.
+    // Without it the dialog would erase the background below its controls, which would flicker.
     SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | WS_CLIPCHILDREN);
     if (!isPage()) {
         centreWindow(window);
     }
     handler_.OnInitDialog(*dialog_);
-    return !isPage();  // a page does not take the focus when it is made
+    return !isPage();  // TRUE lets Windows set the focus; a new page must not take it
 }
 
 INT_PTR Win32DialogHost::onCommand(WPARAM wParam, LPARAM lParam) {

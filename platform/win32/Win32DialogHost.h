@@ -1,5 +1,4 @@
-// A dialog made from a resource whose decisions are somebody else's: a page of
-// the main window, or the About box.
+// A dialog made from a resource, whose decisions a handler takes: a page of the main window, or the About box.
 #pragma once
 
 #include "platform/win32/Win32Dialog.h"
@@ -10,11 +9,8 @@
 
 namespace korvane {
 
-// Puts a window in the middle of its owner, or of the desktop's free part when it has none.
-void centreWindow(HWND window);
-
-// Destroying the host does not destroy the window; the window must not outlive it otherwise than as the child of a
-// parent that is about to go.
+// The window is not destroyed with the host and must not receive messages afterwards: a host goes when its window's
+// parent does.
 class Win32DialogHost {
 public:
     // The handler is borrowed.
@@ -22,7 +18,7 @@ public:
     Win32DialogHost(const Win32DialogHost&) = delete;
     Win32DialogHost& operator=(const Win32DialogHost&) = delete;
 
-    // Makes a child dialog. Null when the platform cannot; the handler has then not been told anything.
+    // Makes a child dialog. Null on failure; the handler has then not been told anything.
     HWND create(HINSTANCE instance, int templateId, HWND parent);
     // Returns when the user has closed the dialog.
     void runModal(HINSTANCE instance, int templateId, HWND owner);

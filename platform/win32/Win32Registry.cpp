@@ -1,8 +1,8 @@
-// One call of advapi32 per verb. The shell's SHDeleteValueA and SHDeleteKeyA are spelled out here, because their
-// library is missing from a bare Windows NT 4.
+// One call of advapi32 per verb. SHDeleteValueA and SHDeleteKeyA are written out, because a bare Windows NT 4 lacks
+// their library, shlwapi.
 #include "platform/win32/Win32Registry.h"
 
-#include <windows.h>
+#include "platform/win32/Handles.h"
 
 #include <algorithm>
 #include <array>
@@ -12,13 +12,12 @@
 namespace korvane {
 namespace {
 
-constexpr REGSAM kFullAccess = 0xF003F;  // KEY_ALL_ACCESS before Vista widened what the name stands for
+constexpr REGSAM kFullAccess = 0xF003F;  // KEY_ALL_ACCESS
 constexpr DWORD kKeyNameRoom = 260;
 constexpr DWORD kValueNameRoom = 16384;
 
 Status toStatus(LONG error) { return static_cast<Status>(error); }
 HKEY toKey(const RegistryHandle& handle) { return reinterpret_cast<HKEY>(handle.value()); }
-std::uintptr_t toValue(HKEY key) { return reinterpret_cast<std::uintptr_t>(key); }
 
 HKEY predefinedKey(Root root) {
     switch (root) {
@@ -34,7 +33,9 @@ HKEY predefinedKey(Root root) {
     return nullptr;
 }
 
-// The first subkey each time, until none is left: what is deleted moves the others up.
+// Always the first subkey, until none is left: deleting one moves up the others.
+LONG deleteKeyAndBelow(HKEY parent, const char* name);
+
 LONG deleteBelow(HKEY key) {
     for (;;) {
         std::array<char, kKeyNameRoom> name{};
@@ -43,16 +44,8 @@ LONG deleteBelow(HKEY key) {
         if (error == ERROR_NO_MORE_ITEMS) {
             return ERROR_SUCCESS;
         }
-        HKEY subkey = nullptr;
         if (error == ERROR_SUCCESS) {
-            error = RegOpenKeyExA(key, name.data(), 0, KEY_READ, &subkey);
-        }
-        if (error == ERROR_SUCCESS) {
-            error = deleteBelow(subkey);
-            RegCloseKey(subkey);
-        }
-        if (error == ERROR_SUCCESS) {
-            error = RegDeleteKeyA(key, name.data());
+            error = deleteKeyAndBelow(key, name.data());
         }
         if (error != ERROR_SUCCESS) {
             return error;
@@ -60,15 +53,29 @@ LONG deleteBelow(HKEY key) {
     }
 }
 
+LONG deleteKeyAndBelow(HKEY parent, const char* name) {
+    UniqueHkey key;
+    LONG error = RegOpenKeyExA(parent, name, 0, KEY_READ, key.receive());
+    if (error == ERROR_SUCCESS) {
+        error = deleteBelow(key.get());
+    }
+    key.reset();  // while it is open a key is only marked for deletion
+    return error == ERROR_SUCCESS ? RegDeleteKeyA(parent, name) : error;
+}
+
 }  // namespace
+
+Status Win32Registry::keep(std::int32_t error, void* key, RegistryHandle& handle) {
+    if (error == ERROR_SUCCESS) {
+        handle = RegistryHandle(*this, reinterpret_cast<std::uintptr_t>(key));
+    }
+    return static_cast<Status>(error);
+}
 
 Status Win32Registry::connect(Root root, RegistryHandle& handle) {
     HKEY key = nullptr;
     const LONG error = RegConnectRegistryA(nullptr, predefinedKey(root), &key);
-    if (error == ERROR_SUCCESS) {
-        handle = RegistryHandle(*this, toValue(key));
-    }
-    return toStatus(error);
+    return keep(error, key, handle);
 }
 
 Status Win32Registry::openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
@@ -83,24 +90,18 @@ Status Win32Registry::open(const RegistryHandle& parent, std::string_view path, 
                            RegistryHandle& key) {
     HKEY opened = nullptr;
     const LONG error = RegOpenKeyExA(toKey(parent), std::string(path).c_str(), 0, access, &opened);
-    if (error == ERROR_SUCCESS) {
-        key = RegistryHandle(*this, toValue(opened));
-    }
-    return toStatus(error);
+    return keep(error, opened, key);
 }
 
 Status Win32Registry::createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
     HKEY created = nullptr;
     const LONG error = RegCreateKeyA(toKey(parent), std::string(path).c_str(), &created);
-    if (error == ERROR_SUCCESS) {
-        key = RegistryHandle(*this, toValue(created));
-    }
-    return toStatus(error);
+    return keep(error, created, key);
 }
 
 Status Win32Registry::queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer,
                                  std::size_t& size, ValueType* type) {
-    // Without a buffer Windows would answer Success and the size; one of no length makes it answer MoreData.
+    // Without a buffer Windows returns success and the size; given one of no length it returns ERROR_MORE_DATA.
     BYTE nowhere = 0;
     BYTE* target = buffer.empty() ? &nowhere : reinterpret_cast<BYTE*>(buffer.data());
     auto length = static_cast<DWORD>(buffer.size());
@@ -117,7 +118,7 @@ Status Win32Registry::queryValue(const RegistryHandle& key, std::string_view nam
 
 Status Win32Registry::setValue(const RegistryHandle& key, std::string_view name, ValueType type,
                                std::span<const std::byte> data) {
-    // Windows adds a text's missing zero if it finds one behind the data: the copy sees to that.
+    // Windows stores a text's missing zero if one follows the data in memory, so the copy has one there.
     std::vector<std::byte> bytes(data.begin(), data.end());
     bytes.push_back(std::byte{0});
     return toStatus(RegSetValueExA(toKey(key), std::string(name).c_str(), 0, static_cast<DWORD>(type),
@@ -129,13 +130,9 @@ Status Win32Registry::deleteValue(const RegistryHandle& key, std::string_view su
     if (subkey.empty()) {
         return toStatus(RegDeleteValueA(toKey(key), valueName.c_str()));
     }
-    HKEY opened = nullptr;
-    LONG error = RegOpenKeyExA(toKey(key), std::string(subkey).c_str(), 0, KEY_SET_VALUE, &opened);
-    if (error == ERROR_SUCCESS) {
-        error = RegDeleteValueA(opened, valueName.c_str());
-        RegCloseKey(opened);
-    }
-    return toStatus(error);
+    UniqueHkey opened;
+    const LONG error = RegOpenKeyExA(toKey(key), std::string(subkey).c_str(), 0, KEY_SET_VALUE, opened.receive());
+    return toStatus(error == ERROR_SUCCESS ? RegDeleteValueA(opened.get(), valueName.c_str()) : error);
 }
 
 Status Win32Registry::deleteKey(const RegistryHandle& parent, std::string_view path) {
@@ -145,18 +142,9 @@ Status Win32Registry::deleteKey(const RegistryHandle& parent, std::string_view p
 Status Win32Registry::deleteTree(const RegistryHandle& parent, std::string_view path) {
     const std::string name(path);
     if (name.empty()) {
-        return Status::InvalidParameter;  // on a root the call would empty all of it
+        return Status::InvalidParameter;  // on a root it would delete everything
     }
-    HKEY opened = nullptr;
-    LONG error = RegOpenKeyExA(toKey(parent), name.c_str(), 0, KEY_READ, &opened);
-    if (error == ERROR_SUCCESS) {
-        error = deleteBelow(opened);
-        RegCloseKey(opened);
-    }
-    if (error == ERROR_SUCCESS) {
-        error = RegDeleteKeyA(toKey(parent), name.c_str());
-    }
-    return toStatus(error);
+    return toStatus(deleteKeyAndBelow(toKey(parent), name.c_str()));
 }
 
 Status Win32Registry::enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) {

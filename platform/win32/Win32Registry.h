@@ -1,4 +1,4 @@
-// The live registry of Windows, through the 8-bit calls of advapi32 that every Windows NT has.
+// The live registry of Windows, through the ANSI calls of advapi32.
 #pragma once
 
 #include "platform/Registry.h"
@@ -23,6 +23,8 @@ public:
 
 private:
     Status open(const RegistryHandle& parent, std::string_view path, std::uint32_t access, RegistryHandle& key);
+    // Hands out a key that a call has opened, unless the call failed.
+    Status keep(std::int32_t error, void* key, RegistryHandle& handle);
     void closeKey(std::uintptr_t handle) noexcept override;
 };
 

@@ -1,38 +1,23 @@
-// Reading the skin, and which window is painted as what.
+// Reads the skin, and keeps which window is painted as which element.
 #include "skin/win32/SkinEngine.h"
 
-#include "text/EqualIgnoringCase.h"
 #include "platform/win32/Win32Dialog.h"
+#include "platform/win32/WindowFunctions.h"
 #include "skin/SkinFolder.h"
+#include "skin/win32/GdiCanvas.h"
 #include "skin/win32/SkinnedWindow.h"
+#include "text/EqualIgnoringCase.h"
 
-#include <algorithm>
-
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr Hresult kDone = 0;
-constexpr Hresult kFailed = static_cast<Hresult>(0x80004005);        // E_FAIL
-constexpr Hresult kNotFound = static_cast<Hresult>(0x80070002);      // the file is missing
-constexpr Hresult kNoWindow = static_cast<Hresult>(0x80070006);      // E_HANDLE
-constexpr Hresult kUnknown = static_cast<Hresult>(0x80070057);       // E_INVALIDARG
+constexpr Hresult kFailed = static_cast<Hresult>(0x80004005);    // E_FAIL
+constexpr Hresult kNotFound = static_cast<Hresult>(0x80070002);  // the file is missing
+constexpr Hresult kNoWindow = static_cast<Hresult>(0x80070006);  // E_HANDLE
+constexpr Hresult kUnknown = static_cast<Hresult>(0x80070057);   // E_INVALIDARG
 
 Pixel systemColour(int index) { return pixelOf(GetSysColor(index)); }
-
-int screenDpi() {
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dpi;
-}
-
-bool wantsHighContrast() {
-    HIGHCONTRASTA setting{};
-    setting.cbSize = sizeof setting;
-    // Windows NT 4 does not know the setting.
-    return SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
-           (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
 
 HWND windowOf(DialogControls& dialog, int controlId) {
     const HWND window = static_cast<Win32Dialog&>(dialog).window();
@@ -44,7 +29,7 @@ constexpr char kFrameButton[] = "FrameButton";
 }  // namespace
 
 SystemSettings readSystemSettings() {
-    return {.highContrast = wantsHighContrast(),
+    return {.highContrast = isHighContrastOn(),
             .colours = {.window = systemColour(COLOR_WINDOW),
                         .windowText = systemColour(COLOR_WINDOWTEXT),
                         .windowFrame = systemColour(COLOR_WINDOWFRAME),
@@ -57,19 +42,14 @@ SystemSettings readSystemSettings() {
                         .captionText = systemColour(COLOR_CAPTIONTEXT),
                         .inactiveCaption = systemColour(COLOR_INACTIVECAPTION),
                         .inactiveCaptionText = systemColour(COLOR_INACTIVECAPTIONTEXT)},
-            .dpi = screenDpi()};
+            .dpi = static_cast<int>(screenDpi().cy)};
 }
 
 Win32SkinEngine::Win32SkinEngine() : settings_(readSystemSettings()) {}
 
-Win32SkinEngine::~Win32SkinEngine() {
-    windows_.clear();
-    for (const auto& [description, font] : fonts_) {
-        DeleteObject(font);
-    }
-}
+Win32SkinEngine::~Win32SkinEngine() = default;
 
-// ---- What the program calls
+// ---- Calls of the program
 
 Hresult Win32SkinEngine::LoadSkin(const std::string& path) {
     const SkinFolder folder(path);
@@ -109,8 +89,8 @@ Hresult Win32SkinEngine::apply(HWND window, std::string_view element) {
     return kDone;
 }
 
-// Makes the element ready to be painted. A window with a frame also needs its buttons and its inside, for which a
-// skin may have nothing of its own.
+// Finds the look of an element. "Main" also needs those of the frame's buttons and of the client area, which a skin may
+// lack.
 bool Win32SkinEngine::prepare(std::string_view element) {
     SkinProblem problem;
     const ElementLook* look = skin_.element(element, problem);
@@ -160,7 +140,7 @@ void Win32SkinEngine::useSettings(const SystemSettings& settings) {
     }
 }
 
-// ---- For the windows that are painted
+// ---- For the windows being painted
 
 const ElementLook& Win32SkinEngine::look(std::string_view element) const {
     static const ElementLook kNone;
@@ -189,10 +169,11 @@ HFONT Win32SkinEngine::font(const SkinFont& named, HFONT otherwise, bool bold) {
     }
     const std::string key(reinterpret_cast<const char*>(&description), sizeof description);
     const auto found = fonts_.find(key);
-    return found != fonts_.end() ? found->second : fonts_[key] = CreateFontIndirectA(&description);
+    const auto kept = found != fonts_.end() ? found : fonts_.emplace(key, CreateFontIndirectA(&description)).first;
+    return kept->second.get();
 }
 
-// One surface goes through all that lies in a top-level window, so that no edges show.
+// All windows inside a top-level window show parts of one surface, so that no edges are visible between them.
 void Win32SkinEngine::drawSurface(HWND window, PaintBuffer& buffer) const {
     HWND top = window;
     while ((GetWindowLongA(top, GWL_STYLE) & WS_CHILD) && GetParent(top) != nullptr) {
@@ -200,12 +181,11 @@ void Win32SkinEngine::drawSurface(HWND window, PaintBuffer& buffer) const {
     }
     POINT place{};
     MapWindowPoints(window, top, &place, 1);
-    RECT whole{};
-    GetClientRect(top, &whole);
-    Canvas canvas = buffer.canvas();
+    const SIZE whole = clientSize(top);
+    Canvas canvas = canvasOn(buffer);
     ElementPainter(canvas, palette_)
         .surface({0, 0, canvas.width(), canvas.height()},
-                 {-place.x, -place.y, whole.right - place.x, whole.bottom - place.y}, look("SubMain"),
+                 {-place.x, -place.y, whole.cx - place.x, whole.cy - place.y}, look("SubMain"),
                  ControlState::Normal);
 }
 
@@ -247,15 +227,9 @@ void registerSkinEngineClass(HINSTANCE instance) {
 }
 
 Win32SkinEngine* skinEngineOf(HWND control) {
-    char name[32] = "";
-    const bool isEngine = GetClassNameA(control, name, sizeof name) != 0 && lstrcmpiA(name, kEngineClass) == 0;
-    return isEngine ? reinterpret_cast<Win32SkinEngine*>(GetWindowLongPtrA(control, GWLP_USERDATA)) : nullptr;
+    return isOfClass(control, kEngineClass)
+               ? reinterpret_cast<Win32SkinEngine*>(GetWindowLongPtrA(control, GWLP_USERDATA))
+               : nullptr;
 }
 
-void initialiseSkinEngine(HWND control, std::span<const std::byte> data) {
-    if (Win32SkinEngine* engine = skinEngineOf(control)) {
-        engine->setProperties(readSkinProperties(data));
-    }
-}
-
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,10 +1,9 @@
-// The skin engine behind control 1057: it reads a skin and paints with it the
-// windows that the program names.
+// The skin engine behind control 1057: reads a skin and paints the windows that the program names with it.
 #pragma once
 
 #include "platform/SkinEngine.h"
+#include "platform/win32/PaintBuffer.h"
 #include "skin/ElementPainter.h"
-#include "skin/win32/PaintBuffer.h"
 
 #include <functional>
 #include <map>
@@ -14,11 +13,11 @@
 
 #include <windows.h>
 
-namespace korvane {
+namespace korvane::skin {
 
 class SkinnedWindow;
 
-// What the user has set for all programs.
+// The user's settings of Windows that the skin follows.
 struct SystemSettings {
     bool highContrast = false;
     SystemColours colours;
@@ -28,7 +27,7 @@ SystemSettings readSystemSettings();
 
 class Win32SkinEngine final : public ISkinEngine {
 public:
-    // Called with the name of a button of the frame that was pressed, other than minimize and close.
+    // Called with the name of a pressed frame button, other than minimize and close.
     using FrameButtonHandler = std::function<void(const std::string& name)>;
 
     Win32SkinEngine();
@@ -36,33 +35,33 @@ public:
     Win32SkinEngine& operator=(const Win32SkinEngine&) = delete;
     ~Win32SkinEngine() override;
 
-    // For use before the first element is applied.
+    // Before the first element is applied.
     void setProperties(const SkinProperties& properties) { properties_ = properties; }
     void setFrameButtonHandler(FrameButtonHandler handler) { frameButtonHandler_ = std::move(handler); }
 
-    // The dialogs have to be real ones (Win32Dialog). Refused are a file that cannot be read or is no skin, an element
-    // that the skin lacks or describes wrongly, and a window that is not there.
+    // The dialogs have to be Win32Dialogs. Fails for a file that cannot be read or is no skin, an element that the skin
+    // lacks or describes wrongly, and a window that does not exist.
     Hresult LoadSkin(const std::string& path) override;
     Hresult ApplySkin(DialogControls& mainWindow) override;
     Hresult ApplySkinElement(DialogControls& dialog, int controlId, std::string_view element) override;
 
-    // A window that has taken the place of another is painted as that one would be.
+    // Paints a window that has taken the place of another as that one was painted.
     void replaceWindow(HWND old, HWND window);
-    // From now on everything is painted according to these settings; at first they are those that the system has.
+    // Repaints everything with these settings; to begin with, those of the system are used.
     void useSettings(const SystemSettings& settings);
 
-    // ---- For the windows that are painted
+    // ---- For the windows being painted
 
-    // Of an element that has been applied; in the system's colours while the user wants high contrast.
+    // Of an element that has been applied; in the system's colours under high contrast.
     const ElementLook& look(std::string_view element) const;
-    // "FrameButton", or that of "Button" in a skin without it.
+    // The look of "FrameButton", or of "Button" in a skin without it.
     const ElementLook& frameButtonLook() const;
     const SkinPalette& palette() const { return palette_; }
     bool skinsClientArea() const { return properties_.skinClientArea; }
-    // The font that an element names, or else the given one; with the second, its bold variant. The font is the
-    // engine's.
+    // The font that an element names, or else the given one, in bold if asked for. Owned by the engine unless it is the
+    // given one.
     HFONT font(const SkinFont& named, HFONT otherwise, bool bold = false);
-    // Draws what a window shows where it has nothing of its own.
+    // Draws the skin's surface, which lies behind everything, over the whole buffer of the window's client area.
     void drawSurface(HWND window, PaintBuffer& buffer) const;
     void pressFrameButton(const std::string& name);
     void forget(HWND window);
@@ -77,16 +76,14 @@ private:
     SkinPalette palette_;
     SystemSettings settings_;
     std::map<std::string, ElementLook, std::less<>> looks_;  // as they are painted, by element
-    std::map<std::string, HFONT> fonts_;                     // by what they were made from
+    std::map<std::string, Font> fonts_;                      // by the bytes of their LOGFONT
     std::map<HWND, std::unique_ptr<SkinnedWindow>> windows_;
     FrameButtonHandler frameButtonHandler_;
 };
 
 // The window class "Korvane.SkinEngine" of control 1057, which holds an engine and shows nothing.
 void registerSkinEngineClass(HINSTANCE instance);
-// The engine of such a control, which lives as long as the control does; null when the window is none.
+// The engine of such a control, which lives as long as the control does; null for any other window.
 Win32SkinEngine* skinEngineOf(HWND control);
-// Hands the control its initialisation data (SkinProperties.h).
-void initialiseSkinEngine(HWND control, std::span<const std::byte> data);
 
-}  // namespace korvane
+}  // namespace korvane::skin

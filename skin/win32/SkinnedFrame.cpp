@@ -1,49 +1,36 @@
-// What the system does at its caption, done at ours.
+// The messages of the non-client area: size, shape, mouse, and when the frame is painted.
 #include "skin/win32/SkinnedFrame.h"
 
-#include "skin/win32/SkinEngine.h"
+#include "platform/win32/WindowFunctions.h"
 
-#include <algorithm>
+#include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
-// The system's themes use them to draw captions past WM_NCPAINT.
+// Undocumented messages at which the themes of Windows XP draw a caption outside WM_NCPAINT.
 constexpr UINT kDrawThemedCaption = 0x00AE;
 constexpr UINT kDrawThemedFrame = 0x00AF;
 
-constexpr UINT_PTR kHotTimer = 0x4B53;
-constexpr UINT kHotInterval = 60;  // milliseconds
-
-constexpr int kIconSize = 16;  // this and what follows: pixels at 96 DPI
-constexpr int kGap = 5;
-constexpr int kButtonInset = 4;  // above and below the buttons
-constexpr int kButtonGap = 2;
-
 POINT pointOf(LPARAM lParam) { return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))}; }
 
-bool contains(const Rect& rect, POINT point) {
-    return point.x >= rect.left && point.x < rect.right && point.y >= rect.top && point.y < rect.bottom;
-}
-
-HFONT captionFont() {
-    NONCLIENTMETRICSA metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return CreateFontIndirectA(&metrics.lfCaptionFont);
+Rect screenRect(HWND window) {
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
 }  // namespace
 
 SkinnedFrame::SkinnedFrame(Win32SkinEngine& engine, HWND window, std::string element)
-    : SkinnedWindow(engine, window, std::move(element)), active_(GetActiveWindow() == window) {
-    fitAround(clientSize());
+    : SkinnedWindow(engine, window, std::move(element)), mouse_(window, HotTracking::Area::Frame) {
+    state_.active = GetActiveWindow() == window;
+    fitAround(clientSize(window));
     shape();
 }
 
 SkinnedFrame::~SkinnedFrame() {
     if (IsWindow(window())) {
-        KillTimer(window(), kHotTimer);
         SetWindowRgn(window(), nullptr, TRUE);
     }
 }
@@ -53,126 +40,88 @@ void SkinnedFrame::repaint() {
     paintFrame(nullptr);
 }
 
-// ---- Sizes
+// ---- Size and shape
 
-int SkinnedFrame::captionHeight() const { return engine().palette().pixels(look().captionHeight); }
+FrameLayout SkinnedFrame::layout() const {
+    const Rect rect = screenRect(window());
+    return layoutFor({0, 0, rect.width(), rect.height()});
+}
 
-int SkinnedFrame::borderWidth() const { return engine().palette().pixels(look().margins.left); }
-
-SIZE SkinnedFrame::size() const {
-    RECT rect{};
-    GetWindowRect(window(), &rect);
-    return {rect.right - rect.left, rect.bottom - rect.top};
+FrameLayout SkinnedFrame::layoutFor(Rect whole) const {
+    return {look(), engine().palette(), whole, (GetWindowLongA(window(), GWL_STYLE) & WS_MINIMIZEBOX) != 0};
 }
 
 void SkinnedFrame::fitAround(SIZE client) {
-    RECT rect{};
-    GetWindowRect(window(), &rect);
-    const int width = client.cx + 2 * borderWidth();
-    const int height = client.cy + captionHeight() + borderWidth();
+    const Rect rect = screenRect(window());
+    const FrameLayout frame = layout();
+    const int width = client.cx + 2 * frame.borderWidth;
+    const int height = client.cy + frame.captionHeight + frame.borderWidth;
     SetWindowPos(window(), nullptr, (rect.left + rect.right - width) / 2, (rect.top + rect.bottom - height) / 2, width,
                  height, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
-// Round corners above. A window that has a shape of its own also keeps newer systems, and window managers under Wine,
-// from putting another frame around it.
+// Rounds the upper corners. Even without round corners the window gets a region of its own: it keeps newer versions of
+// Windows, and window managers under Wine, from drawing another frame around it.
 void SkinnedFrame::shape() {
     if (IsIconic(window())) {
         SetWindowRgn(window(), nullptr, TRUE);
         return;
     }
-    const SIZE whole = size();
+    const Rect whole = layout().window;
     const int corner = 2 * engine().palette().pixels(look().radius);
-    const HRGN region = corner > 0 ? CreateRoundRectRgn(0, 0, whole.cx + 1, whole.cy + corner, corner, corner)
-                             : CreateRectRgn(0, 0, whole.cx, whole.cy);
-    const HRGN all = CreateRectRgn(0, 0, whole.cx, whole.cy);
-    CombineRgn(region, region, all, RGN_AND);
-    DeleteObject(all);
-    SetWindowRgn(window(), region, TRUE);  // the system owns it from now on
-}
-
-void SkinnedFrame::insideOf(RECT& rect) const {
-    rect.left += borderWidth();
-    rect.top += captionHeight();
-    rect.right = std::max(rect.left, rect.right - borderWidth());
-    rect.bottom = std::max(rect.top, rect.bottom - borderWidth());
-}
-
-Rect SkinnedFrame::iconPlace() const {
-    const SkinPalette& palette = engine().palette();
-    const int icon = palette.pixels(kIconSize);
-    const int left = borderWidth() + palette.pixels(kGap) / 2;
-    const int top = (captionHeight() - icon) / 2;
-    return {left, top, left + icon, top + icon};
-}
-
-// From the right edge, the last one first.
-std::vector<SkinnedFrame::Button> SkinnedFrame::buttons() const {
-    const SkinPalette& palette = engine().palette();
-    const LONG style = GetWindowLongA(window(), GWL_STYLE);
-    const int inset = palette.pixels(kButtonInset);
-    const int side = captionHeight() - 2 * inset;
-    int right = size().cx - std::max(borderWidth(), inset);
-    std::vector<Button> places;
-    const std::vector<std::string>& names = look().buttons;
-    for (auto name = names.rbegin(); name != names.rend(); ++name) {
-        // Only a window that can be minimized is; the help belongs to the program's main window as well.
-        if (!(style & WS_MINIMIZEBOX) && *name != "Close") {
-            continue;
-        }
-        places.push_back({*name, {right - side, inset, right, inset + side}});
-        right -= side + palette.pixels(kButtonGap);
-    }
-    return places;
+    Region region(corner > 0
+                      ? CreateRoundRectRgn(0, 0, whole.width() + 1, whole.height() + corner, corner, corner)
+                      : CreateRectRgn(0, 0, whole.width(), whole.height()));
+    const Region all(CreateRectRgn(0, 0, whole.width(), whole.height()));
+    CombineRgn(region.get(), region.get(), all.get(), RGN_AND);
+    SetWindowRgn(window(), region.release(), TRUE);  // Windows owns it from now on
 }
 
 // ---- The mouse
 
 int SkinnedFrame::buttonAt(POINT screen) const {
-    RECT rect{};
-    GetWindowRect(window(), &rect);
-    const POINT inWindow{screen.x - rect.left, screen.y - rect.top};
-    const std::vector<Button> all = buttons();
-    const auto found = std::ranges::find_if(all, [&](const Button& b) { return contains(b.place, inWindow); });
-    return found != all.end() ? static_cast<int>(found - all.begin()) : kNoButton;
+    const Rect rect = screenRect(window());
+    return layout().buttonAt(screen.x - rect.left, screen.y - rect.top);
 }
 
 LRESULT SkinnedFrame::hitTest(POINT screen) const {
-    RECT rect{};
-    GetWindowRect(window(), &rect);
-    RECT inside = rect;
-    insideOf(inside);
-    if (PtInRect(&inside, screen)) {
+    const Rect rect = screenRect(window());
+    const int x = screen.x - rect.left;
+    const int y = screen.y - rect.top;
+    const FrameLayout frame = layout();
+    if (contains(frame.inside, x, y)) {
         return HTCLIENT;
     }
-    const int button = buttonAt(screen);
+    const int button = frame.buttonAt(x, y);
     if (button != kNoButton) {
-        const std::string name = buttons()[static_cast<std::size_t>(button)].name;
+        const std::string& name = frame.buttons[static_cast<std::size_t>(button)].name;
         return name == "Close" ? HTCLOSE : name == "Minimize" ? HTMINBUTTON : HTHELP;
     }
-    if (contains(iconPlace(), {screen.x - rect.left, screen.y - rect.top})) {
+    if (contains(frame.icon, x, y)) {
         return HTSYSMENU;
     }
-    return screen.y < inside.top ? HTCAPTION : HTBORDER;
+    return y < frame.inside.top ? HTCAPTION : HTBORDER;
 }
 
 void SkinnedFrame::track(int hot, int pressed) {
-    if (hot != hot_ || pressed != pressed_) {
-        if (hot != kNoButton && hot_ == kNoButton) {
-            SetTimer(window(), kHotTimer, kHotInterval, nullptr);
-        }
-        hot_ = hot;
-        pressed_ = pressed;
+    if (hot != kNoButton && !mouse_.start()) {
+        hot = kNoButton;
+    }
+    const FrameState old = std::exchange(state_, {state_.active, hot, pressed});
+    if (state_ != old) {
         paintFrame(nullptr);
     }
 }
 
-void SkinnedFrame::release(bool onButton) {
-    const int pressed = pressed_;
-    track(hot_, kNoButton);
-    const std::vector<Button> all = buttons();
-    if (onButton && pressed >= 0 && static_cast<std::size_t>(pressed) < all.size()) {
-        press(all[static_cast<std::size_t>(pressed)].name);
+// The button counts only if the mouse is released over it.
+void SkinnedFrame::release(POINT screen) {
+    const int pressed = std::exchange(state_.pressedButton, kNoButton);
+    ReleaseCapture();  // sends WM_CAPTURECHANGED, by when no button may count as pressed any more
+    const bool onButton = buttonAt(screen) == pressed;
+    track(onButton ? pressed : kNoButton, kNoButton);
+    paintFrame(nullptr);
+    if (onButton) {
+        press(layout().buttons[static_cast<std::size_t>(pressed)].name);
     }
 }
 
@@ -190,9 +139,7 @@ void SkinnedFrame::press(const std::string& name) {
 
 LRESULT SkinnedFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_SIZE:
-            shape();
-            return callOriginal(message, wParam, lParam);
+        case WM_SIZE: shape(); return callOriginal(message, wParam, lParam);
         case WM_SYSCOLORCHANGE:
         case WM_SETTINGCHANGE: {
             const LRESULT result = callOriginal(message, wParam, lParam);
@@ -200,82 +147,79 @@ LRESULT SkinnedFrame::handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return result;
         }
         case WM_ERASEBKGND:
-            return engine().skinsClientArea() && !IsIconic(window()) ? paintInside(reinterpret_cast<HDC>(wParam))
+            return engine().skinsClientArea() && !IsIconic(window()) ? paintSurface(reinterpret_cast<HDC>(wParam))
                                                                      : callOriginal(message, wParam, lParam);
         default: break;
     }
+    // A minimized window has no skinned frame.
     return IsIconic(window()) ? callOriginal(message, wParam, lParam) : handleFrame(message, wParam, lParam);
 }
 
 LRESULT SkinnedFrame::handleFrame(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_NCCALCSIZE:
-            // The window's rectangle comes first in both forms of the message.
-            insideOf(*reinterpret_cast<RECT*>(lParam));
+        case WM_NCCALCSIZE: {
+            // Both forms of the message begin with the window's rectangle.
+            RECT& rect = *reinterpret_cast<RECT*>(lParam);
+            const Rect inside = layoutFor({0, 0, rect.right - rect.left, rect.bottom - rect.top}).inside;
+            rect = {rect.left + inside.left, rect.top + inside.top, rect.left + inside.right, rect.top + inside.bottom};
             return 0;
+        }
         case WM_NCPAINT: paintFrame(wParam > 1 ? reinterpret_cast<HRGN>(wParam) : nullptr); return 0;
         case kDrawThemedCaption:
         case kDrawThemedFrame: paintFrame(nullptr); return 0;
         case WM_PRINT: return print(wParam, lParam);
         case WM_NCACTIVATE:
-            active_ = wParam != 0;
+            state_.active = wParam != 0;
             paintFrame(nullptr);
             return TRUE;
         case WM_SETTEXT:
         case WM_SETICON: return callWithoutFrame(message, wParam, lParam);
         case WM_NCHITTEST: return hitTest(pointOf(lParam));
-        case WM_NCMOUSEMOVE: track(buttonAt(pointOf(lParam)), pressed_); break;
-        case WM_NCLBUTTONDBLCLK:
-        case WM_NCLBUTTONDOWN:
-            if (const int button = buttonAt(pointOf(lParam)); button != kNoButton) {
-                SetCapture(window());
-                track(button, button);
-                return 0;
-            }
-            break;
-        case WM_MOUSEMOVE:
-            if (pressed_ != kNoButton) {
-                POINT point = pointOf(lParam);
-                ClientToScreen(window(), &point);
-                track(buttonAt(point) == pressed_ ? pressed_ : kNoButton, pressed_);
-                return 0;
-            }
-            break;
-        case WM_LBUTTONUP:
-            if (pressed_ != kNoButton) {
-                POINT point = pointOf(lParam);
-                ClientToScreen(window(), &point);
-                const bool onButton = buttonAt(point) == pressed_;
-                const int pressed = pressed_;
-                pressed_ = kNoButton;  // losing the capture is then nothing of ours
-                ReleaseCapture();
-                pressed_ = pressed;
-                release(onButton);
-                return 0;
-            }
-            break;
-        case WM_CAPTURECHANGED:
-            if (pressed_ != kNoButton) {
-                track(kNoButton, kNoButton);
-            }
-            break;
-        case WM_TIMER:
-            if (wParam == kHotTimer) {
-                POINT point{};
-                GetCursorPos(&point);
-                if (pressed_ == kNoButton && buttonAt(point) == kNoButton) {
-                    KillTimer(window(), kHotTimer);
-                    track(kNoButton, kNoButton);
-                }
-                return 0;
-            }
-            break;
         default: break;
     }
-    return callOriginal(message, wParam, lParam);
+    if (mouse_.hasLeft(message, wParam) && state_.pressedButton == kNoButton) {
+        track(kNoButton, kNoButton);
+    }
+    return handleMouse(message, lParam) ? 0 : callOriginal(message, wParam, lParam);
 }
 
-// The system draws its caption when its text or icon changes: not while the window is not visible.
+bool SkinnedFrame::handleMouse(UINT message, LPARAM lParam) {
+    const bool pressing = state_.pressedButton != kNoButton;
+    POINT point = pointOf(lParam);
+    switch (message) {
+        case WM_NCMOUSEMOVE: track(buttonAt(point), state_.pressedButton); return false;
+        case WM_NCLBUTTONDBLCLK:
+        case WM_NCLBUTTONDOWN: {
+            const int button = buttonAt(point);
+            if (button != kNoButton) {
+                SetCapture(window());
+                track(button, button);
+            }
+            return button != kNoButton;
+        }
+        // While a button is pressed the mouse is captured, and its messages are those of the client area.
+        case WM_MOUSEMOVE:
+            if (pressing) {
+                ClientToScreen(window(), &point);
+                track(buttonAt(point) == state_.pressedButton ? state_.pressedButton : kNoButton, state_.pressedButton);
+            }
+            return pressing;
+        case WM_LBUTTONUP:
+            if (pressing) {
+                ClientToScreen(window(), &point);
+                release(point);
+            }
+            return pressing;
+        case WM_CAPTURECHANGED:
+            if (pressing) {
+                track(kNoButton, kNoButton);
+            }
+            return false;
+        default: return false;
+    }
+}
+
+// Windows draws a caption of its own when the title or the icon changes, unless the window counts as hidden.
 LRESULT SkinnedFrame::callWithoutFrame(UINT message, WPARAM wParam, LPARAM lParam) {
     const LONG style = GetWindowLongA(window(), GWL_STYLE);
     if (!(style & WS_VISIBLE)) {
@@ -290,123 +234,41 @@ LRESULT SkinnedFrame::callWithoutFrame(UINT message, WPARAM wParam, LPARAM lPara
 
 // ---- Painting
 
-// `update` is in screen coordinates; null: everything.
 void SkinnedFrame::paintFrame(HRGN update) const {
     if (!IsWindowVisible(window()) || IsIconic(window())) {
         return;
     }
-    const HDC dc = GetWindowDC(window());
+    const WindowDc dc(window(), WindowDc::Area::Whole);
     if (update != nullptr) {
-        RECT rect{};
-        GetWindowRect(window(), &rect);
-        const HRGN inWindow = CreateRectRgn(0, 0, 0, 0);
-        CombineRgn(inWindow, update, nullptr, RGN_COPY);
-        OffsetRgn(inWindow, -rect.left, -rect.top);
-        SelectClipRgn(dc, inWindow);
-        DeleteObject(inWindow);
+        const Rect rect = screenRect(window());
+        const Region inWindow(CreateRectRgn(0, 0, 0, 0));
+        CombineRgn(inWindow.get(), update, nullptr, RGN_COPY);
+        OffsetRgn(inWindow.get(), -rect.left, -rect.top);
+        SelectClipRgn(dc.get(), inWindow.get());
     }
-    drawFrame(dc);
-    ReleaseDC(window(), dc);
+    drawFrame(dc.get());
 }
 
 void SkinnedFrame::drawFrame(HDC dc) const {
-    const SkinPalette& palette = engine().palette();
-    const SIZE whole = size();
-    RECT inside{0, 0, whole.cx, whole.cy};
-    insideOf(inside);
-    ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-    PaintBuffer caption(whole.cx, captionHeight());
-    if (caption.valid()) {
-        drawCaption(caption);
-        caption.copyTo(dc, 0, 0);
-    }
-    const StateLook& colours = look().of(state());
-    const SkinColour panel{ColourSource::Panel, 0};
-    const HBRUSH fill = CreateSolidBrush(colourOf(palette.of(colours.fill ? colours.fill->bottom : panel)));
-    const RECT sides[] = {{0, inside.top, inside.left, whole.cy},
-                          {inside.right, inside.top, whole.cx, whole.cy},
-                          {0, inside.bottom, whole.cx, whole.cy}};
-    for (const RECT& side : sides) {
-        FillRect(dc, &side, fill);
-    }
-    DeleteObject(fill);
-    if (colours.border) {
-        const HBRUSH line = CreateSolidBrush(colourOf(palette.of(*colours.border)));
-        const RECT edges[] = {{0, inside.top, 1, whole.cy},
-                              {whole.cx - 1, inside.top, whole.cx, whole.cy},
-                              {0, whole.cy - 1, whole.cx, whole.cy}};
-        for (const RECT& edge : edges) {
-            FillRect(dc, &edge, line);
-        }
-        DeleteObject(line);
-    }
+    const FrameLayout frame = layout();
+    FramePainter(engine(), look(), frame, state_).draw(dc, window());
 }
 
-// For programs that take pictures of windows.
+// WM_PRINT, for programs that take pictures of windows.
 LRESULT SkinnedFrame::print(WPARAM wParam, LPARAM lParam) const {
     if (!(lParam & PRF_NONCLIENT)) {
         return callOriginal(WM_PRINT, wParam, lParam);
     }
     const auto dc = reinterpret_cast<HDC>(wParam);
-    int saved = SaveDC(dc);
+    const int unclipped = SaveDC(dc);
     drawFrame(dc);
-    RestoreDC(dc, saved);
-    saved = SaveDC(dc);
-    SetViewportOrgEx(dc, borderWidth(), captionHeight(), nullptr);
+    RestoreDC(dc, unclipped);
+    const int unmoved = SaveDC(dc);
+    const FrameLayout frame = layout();
+    SetViewportOrgEx(dc, frame.borderWidth, frame.captionHeight, nullptr);
     const LRESULT result = callOriginal(WM_PRINT, wParam, lParam & ~LPARAM{PRF_NONCLIENT});
-    RestoreDC(dc, saved);
+    RestoreDC(dc, unmoved);
     return result;
 }
 
-void SkinnedFrame::drawCaption(PaintBuffer& buffer) const {
-    const SkinPalette& palette = engine().palette();
-    const Rect caption{0, 0, size().cx, captionHeight()};
-    // The lower edge of the box, with its round corners and its border, lies below the caption.
-    Rect beyond = caption;
-    const int hidden = std::max(palette.pixels(look().radius), palette.pixels(look().borderWidth)) + 1;
-    beyond.bottom += look().picture == nullptr ? hidden : 0;
-    Canvas canvas = buffer.canvas();
-    ElementPainter painter(canvas, palette);
-    painter.background(beyond, look(), state());
-    const std::vector<Button> all = buttons();
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        const bool hot = hot_ == static_cast<int>(i);
-        const bool pressed = pressed_ == static_cast<int>(i) && hot;
-        painter.frameButton(all[i].place, engine().frameButtonLook(),
-                            pressed ? ControlState::Pressed : hot ? ControlState::Hot : state(), all[i].name);
-    }
-    Rect place{iconPlace().left, 0, all.empty() ? caption.right : all.back().place.left, caption.bottom};
-    auto icon = reinterpret_cast<HICON>(SendMessageA(window(), WM_GETICON, ICON_SMALL, 0));
-    if (icon != nullptr) {
-        const Rect at = iconPlace();
-        DrawIconEx(buffer.dc(), at.left, at.top, icon, at.width(), at.height(), 0, nullptr, DI_NORMAL);
-        place.left = at.right;
-    }
-    place.left += palette.pixels(kGap);
-    place.right -= palette.pixels(kGap);
-    drawTitle(buffer, place);
-}
-
-void SkinnedFrame::drawTitle(PaintBuffer& buffer, const Rect& place) const {
-    const HFONT systemFont = captionFont();
-    const HGDIOBJ oldFont = SelectObject(buffer.dc(), engine().font(look().font, systemFont));
-    SetBkMode(buffer.dc(), TRANSPARENT);
-    SetTextColor(buffer.dc(), colourOf(engine().palette().of(look().of(state()).text)));
-    RECT area{place.left, place.top, place.right, place.bottom};
-    DrawTextA(buffer.dc(), text().c_str(), -1, &area,
-              DT_LEFT | DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(buffer.dc(), oldFont);
-    DeleteObject(systemFont);
-}
-
-LRESULT SkinnedFrame::paintInside(HDC dc) const {
-    const SIZE client = clientSize();
-    PaintBuffer buffer(client.cx, client.cy);
-    if (buffer.valid()) {
-        engine().drawSurface(window(), buffer);
-        buffer.copyTo(dc, 0, 0);
-    }
-    return TRUE;
-}
-
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -1,60 +1,50 @@
-// A window with a frame of its own: "Main". The engine draws caption and
-// border; moving, the system menu and closing stay the system's.
+// A top-level window with a skinned frame: the element "Main". The skin paints caption and border; moving, the system
+// menu and closing stay those of Windows.
 #pragma once
 
+#include "platform/win32/HotTracking.h"
+#include "skin/win32/FramePainter.h"
 #include "skin/win32/SkinnedWindow.h"
 
 #include <string>
-#include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 
 class SkinnedFrame final : public SkinnedWindow {
 public:
-    // The window keeps the size of its inside and its middle.
+    // The client area keeps its size, and the window its middle.
     SkinnedFrame(Win32SkinEngine& engine, HWND window, std::string element);
     ~SkinnedFrame() override;
 
     void repaint() override;
 
 private:
-    struct Button {
-        std::string name;
-        Rect place;  // in the window
-    };
+    static constexpr int kNoButton = FrameLayout::kNoButton;
 
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT handleFrame(UINT message, WPARAM wParam, LPARAM lParam);
-    int captionHeight() const;
-    int borderWidth() const;
+    // False for a message that goes on to the window's own procedure.
+    bool handleMouse(UINT message, LPARAM lParam);
+
+    FrameLayout layout() const;
+    FrameLayout layoutFor(Rect window) const;
     void fitAround(SIZE client);
     void shape();
-    void insideOf(RECT& window) const;
-    SIZE size() const;
 
-    Rect iconPlace() const;
-    std::vector<Button> buttons() const;
     int buttonAt(POINT screen) const;
     LRESULT hitTest(POINT screen) const;
     void track(int hot, int pressed);
-    void release(bool onButton);
+    void release(POINT screen);
     void press(const std::string& name);
 
     LRESULT callWithoutFrame(UINT message, WPARAM wParam, LPARAM lParam);
+    // `update` is in screen coordinates; null for the whole frame.
     void paintFrame(HRGN update) const;
     void drawFrame(HDC dc) const;
     LRESULT print(WPARAM wParam, LPARAM lParam) const;
-    void drawCaption(PaintBuffer& buffer) const;
-    void drawTitle(PaintBuffer& buffer, const Rect& place) const;
-    ControlState state() const { return active_ ? ControlState::Normal : ControlState::Inactive; }
-    LRESULT paintInside(HDC dc) const;
 
-    bool active_ = false;
-    int hot_ = kNoButton;
-    int pressed_ = kNoButton;
-    bool overPressed_ = false;
-
-    static constexpr int kNoButton = -1;
+    FrameState state_;
+    HotTracking mouse_;
 };
 
-}  // namespace korvane
+}  // namespace korvane::skin

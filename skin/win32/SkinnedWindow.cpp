@@ -1,9 +1,10 @@
-// Taking a window procedure over, and painting without flicker.
+// Subclassing, and painting without flicker.
 #include "skin/win32/SkinnedWindow.h"
 
+#include "platform/win32/WindowFunctions.h"
 #include "skin/win32/SkinEngine.h"
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr char kProperty[] = "Korvane.Skin";
@@ -31,7 +32,7 @@ LRESULT CALLBACK SkinnedWindow::windowProc(HWND window, UINT message, WPARAM wPa
     }
     if (message == WM_NCDESTROY) {
         const WNDPROC original = self->original_;
-        self->engine_.forget(window);  // deletes it, which gives the procedure back
+        self->engine_.forget(window);  // deletes self, which restores the procedure
         return CallWindowProcA(original, window, message, wParam, lParam);
     }
     return self->handle(message, wParam, lParam);
@@ -41,7 +42,8 @@ LRESULT SkinnedWindow::callOriginal(UINT message, WPARAM wParam, LPARAM lParam) 
     return CallWindowProcA(original_, window_, message, wParam, lParam);
 }
 
-// A window that is not visible does not paint itself, so for a moment it is not. That must not show a hidden one.
+// DefWindowProc answers WM_SETREDRAW with taking WS_VISIBLE away and giving it back, and a hidden window does not paint
+// itself. One that is really hidden must not become visible by this.
 LRESULT SkinnedWindow::callWithoutPainting(UINT message, WPARAM wParam, LPARAM lParam) const {
     if (!(GetWindowLongA(window_, GWL_STYLE) & WS_VISIBLE)) {
         return callOriginal(message, wParam, lParam);
@@ -54,35 +56,35 @@ LRESULT SkinnedWindow::callWithoutPainting(UINT message, WPARAM wParam, LPARAM l
 }
 
 LRESULT SkinnedWindow::paintWhole(UINT message, WPARAM wParam) {
-    const SIZE size = clientSize();
-    PAINTSTRUCT paint{};
-    const bool given = message != WM_PAINT || wParam != 0;
-    const HDC target = given ? reinterpret_cast<HDC>(wParam) : BeginPaint(window_, &paint);
+    if (message == WM_PAINT && wParam == 0) {
+        const PaintDc screen(window_);
+        return paintWhole(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(screen.get()));
+    }
+    const SIZE size = clientSize(window_);
     PaintBuffer buffer(size.cx, size.cy);
     if (buffer.valid()) {
         draw(buffer);
-        buffer.copyTo(target, 0, 0);
-    }
-    if (!given) {
-        EndPaint(window_, &paint);
+        buffer.copyTo(reinterpret_cast<HDC>(wParam), 0, 0);
     }
     return 0;
+}
+
+LRESULT SkinnedWindow::paintSurface(HDC dc) const {
+    const SIZE size = clientSize(window_);
+    PaintBuffer buffer(size.cx, size.cy);
+    if (buffer.valid()) {
+        engine_.drawSurface(window_, buffer);
+        buffer.copyTo(dc, 0, 0);
+    }
+    return TRUE;
 }
 
 void SkinnedWindow::repaint() { InvalidateRect(window_, nullptr, TRUE); }
 
 const ElementLook& SkinnedWindow::look() const { return engine_.look(element_); }
 
-std::string SkinnedWindow::text() const {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window_)), '\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window_, text.data(), static_cast<int>(text.size()) + 1)));
-    return text;
+HFONT SkinnedWindow::font(bool bold) const {
+    return engine_.font(look().font, reinterpret_cast<HFONT>(SendMessageA(window_, WM_GETFONT, 0, 0)), bold);
 }
 
-SIZE SkinnedWindow::clientSize() const {
-    RECT client{};
-    GetClientRect(window_, &client);
-    return {client.right, client.bottom};
-}
-
-}  // namespace korvane
+}  // namespace korvane::skin

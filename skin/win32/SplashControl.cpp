@@ -1,9 +1,9 @@
-// The control itself looks like the dialog behind it. The picture is a popup
-// that belongs to nobody, cannot be activated, and goes with the control at
-// the latest.
+// The control shows nothing but the dialog's background. The picture is a popup without an owner, which cannot be
+// activated and is destroyed with the control at the latest.
 #include "skin/win32/SplashControl.h"
 
-#include "platform/win32/Win32DialogHost.h"
+#include "platform/win32/PaintBuffer.h"
+#include "platform/win32/WindowFunctions.h"
 #include "skin/SkinFolder.h"
 #include "skin/SplashFile.h"
 
@@ -12,7 +12,7 @@
 #include <optional>
 #include <utility>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr char kPictureClass[] = "Korvane.SplashPicture";
@@ -24,7 +24,7 @@ constexpr std::int32_t kLongestTime = 10000;  // milliseconds
 constexpr DWORD kNap = 10;                    // while waiting
 constexpr int kDesignedDpi = 96;
 
-// Puts an opaque colour behind what is transparent: the popup is a plain rectangle.
+// Puts a colour behind transparent pixels: the popup is a plain rectangle.
 void makeOpaque(Picture& picture, COLORREF behind) {
     const unsigned back[] = {GetBValue(behind), GetGValue(behind), GetRValue(behind)};
     for (Pixel& pixel : picture.pixels) {
@@ -51,17 +51,11 @@ std::optional<Picture> readSplashPicture(const std::string& path) {
 }
 
 void paintPicture(HDC dc, HWND window, const Picture& picture) {
-    BITMAPINFO form{};
-    form.bmiHeader.biSize = sizeof form.bmiHeader;
-    form.bmiHeader.biWidth = picture.width;
-    form.bmiHeader.biHeight = -picture.height;  // the top row comes first
-    form.bmiHeader.biPlanes = 1;
-    form.bmiHeader.biBitCount = 32;
-    RECT area{};
-    GetClientRect(window, &area);
+    const BITMAPINFO form = topDownPixels(picture.width, picture.height);
+    const SIZE area = clientSize(window);
     const int oldMode = SetStretchBltMode(dc, COLORONCOLOR);
-    SetStretchBltMode(dc, HALFTONE);  // enlarges smoothly; Windows 98 does not know it
-    StretchDIBits(dc, 0, 0, area.right, area.bottom, 0, 0, picture.width, picture.height, picture.pixels.data(), &form,
+    SetStretchBltMode(dc, HALFTONE);  // enlarges smoothly; fails on Windows 98, which has no such mode
+    StretchDIBits(dc, 0, 0, area.cx, area.cy, 0, 0, picture.width, picture.height, picture.pixels.data(), &form,
                   DIB_RGB_COLORS, SRCCOPY);
     SetStretchBltMode(dc, oldMode);
 }
@@ -70,13 +64,8 @@ LRESULT CALLBACK pictureProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     const auto* picture = reinterpret_cast<const Picture*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     switch (message) {
         case WM_ERASEBKGND: return 1;
-        case WM_CLOSE: return 0;  // the control closes it
-        case WM_PAINT: {
-            PAINTSTRUCT paint{};
-            paintPicture(BeginPaint(window, &paint), window, *picture);
-            EndPaint(window, &paint);
-            return 0;
-        }
+        case WM_CLOSE: return 0;  // only the control closes it
+        case WM_PAINT: paintPicture(PaintDc(window).get(), window, *picture); return 0;
         case WM_PRINTCLIENT: paintPicture(reinterpret_cast<HDC>(wParam), window, *picture); return 0;
         default: return DefWindowProcA(window, message, wParam, lParam);
     }
@@ -112,7 +101,7 @@ public:
             close();
             return;
         }
-        SetWindowPos(popup_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        moveToTop(popup_);
         SetTimer(control_, kCloseTimer, remaining, nullptr);
     }
 
@@ -135,10 +124,9 @@ private:
             return;
         }
         picture_ = std::move(*picture);
-        const HDC screen = GetDC(nullptr);
-        const int width = MulDiv(picture_.width, GetDeviceCaps(screen, LOGPIXELSX), kDesignedDpi);
-        const int height = MulDiv(picture_.height, GetDeviceCaps(screen, LOGPIXELSY), kDesignedDpi);
-        ReleaseDC(nullptr, screen);
+        const SIZE dpi = screenDpi();
+        const int width = MulDiv(picture_.width, dpi.cx, kDesignedDpi);
+        const int height = MulDiv(picture_.height, dpi.cy, kDesignedDpi);
         popup_ = CreateWindowExA(WS_EX_TOOLWINDOW, kPictureClass, "", WS_POPUP | WS_DISABLED, 0, 0, width, height,
                                  nullptr, nullptr, instance_, nullptr);
         if (popup_ == nullptr) {
@@ -151,13 +139,13 @@ private:
         shownAt_ = GetTickCount();
     }
 
-    // 0 as well when nothing is shown.
+    // In milliseconds; 0 when no picture is shown.
     DWORD remainingTime() const {
         const DWORD shownFor = GetTickCount() - shownAt_;
         return popup_ != nullptr && shownFor < minimumTime_ ? minimumTime_ - shownFor : 0;
     }
 
-    // Nothing else of the program runs meanwhile: it is not ready yet.
+    // Handles only the picture's messages: the rest of the program is not ready for any yet.
     void waitUntilTimeIsOver() {
         while (remainingTime() > 0) {
             MSG message{};
@@ -177,10 +165,10 @@ private:
     Picture picture_;
 };
 
-// As the dialog would paint the place without the control.
+// Paints the dialog's background.
 void eraseAsParent(HWND control, HDC dc) {
-    RECT area{};
-    GetClientRect(control, &area);
+    const SIZE size = clientSize(control);
+    const RECT area{0, 0, size.cx, size.cy};
     const LRESULT brush = SendMessageA(GetParent(control), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
                                        reinterpret_cast<LPARAM>(control));
     FillRect(dc, &area, brush != 0 ? reinterpret_cast<HBRUSH>(brush) : GetSysColorBrush(COLOR_3DFACE));
@@ -239,4 +227,4 @@ void Win32Splash::hide() { SendMessageA(control_, kSplashHide, 0, 0); }
 
 void Win32Splash::close() { PostMessageA(control_, kSplashMainShown, 0, 0); }
 
-}  // namespace korvane
+}  // namespace korvane::skin

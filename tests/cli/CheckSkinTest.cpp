@@ -10,7 +10,7 @@ TEST(CheckSkin, SaysWhatAFileIsAndNamesEveryMistake) {
     const std::string skin =
         "[Skin]\nFormat=1\n[Main]\n[SubMain]\n[CheckBox]\nPicture=a.bmp\n[Label]\n[Button]\nPicture=a.bmp\n"
         "[Splitter]\nPicture=a.bmp\n[FrameButton]\n";
-    writeFile(folder.file("a.bmp"), greyBitmap(2, 2));
+    writeFile(folder.file("a.bmp"), skin::greyBitmap(2, 2));
     writeFile(folder.file("good.skn"), skin);
     writeFile(folder.file("bad.skn"), withChange(withChange(skin, "Picture=a", "Picture=c"), "[Main]", "X=y\n[Main]"));
     writeFile(folder.file("good.SPL"), "[Splash]\nFormat=1\nPicture=a.bmp\n");

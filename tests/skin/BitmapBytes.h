@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 
 inline std::string littleEndian(std::uint32_t value, int bytes) {
     std::string text;
@@ -59,4 +59,4 @@ inline std::string greyBitmap(int width, int height) {
     return BitmapBytes{.width = width, .height = height, .rows = std::move(rows)}.str();
 }
 
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <tuple>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 using Pixels = std::vector<Pixel>;
@@ -138,4 +138,4 @@ TEST(BitmapFile, OtherKindsAreNamed) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr Pixel kWhite = 0xFFFFFFFF;
@@ -34,9 +34,10 @@ TEST_F(CanvasTest, ColoursMixAndTurn) {
 }
 
 TEST_F(CanvasTest, AreasAreCutOffAtTheEdges) {
-    canvas.fill({-5, -5, 3, 2}, kRed);
-    canvas.fill({38, 28, 100, 100}, kBlue);
-    canvas.fill({10, 10, 5, 20}, kBlack);  // turned inside out
+    const Rect whole{0, 0, kWidth, kHeight};
+    canvas.gradient({-5, -5, 3, 2}, whole, kRed, kRed);
+    canvas.gradient({38, 28, 100, 100}, whole, kBlue, kBlue);
+    canvas.gradient({10, 10, 5, 20}, whole, kBlack, kBlack);  // turned inside out
     EXPECT_EQ(count(kRed), 6);
     EXPECT_EQ(count(kBlue), 4);
     EXPECT_EQ(count(kBlack), 0);
@@ -84,19 +85,19 @@ TEST_F(CanvasTest, APictureKeepsItsMarginsAndStretchesBetweenThem) {
     // Three columns and three rows: black corners, blue edges, a red middle; below it a second state, all white.
     Picture picture{3, 6, {kBlack, kBlue, kBlack, kBlue, kRed, kBlue, kBlack, kBlue, kBlack}};
     picture.pixels.resize(18, kWhite);
-    canvas.picture({0, 0, 20, 10}, picture, 0, 3, {1, 1, 1, 1}, 96, 0);
+    canvas.picture({0, 0, 20, 10}, {picture, 0, 3, {1, 1, 1, 1}});
     EXPECT_EQ(count(kBlack), 4);
     EXPECT_EQ(at(19, 9), kBlack);
     EXPECT_EQ(count(kBlue), 2 * 18 + 2 * 8);
     EXPECT_EQ(count(kRed), 18 * 8);
-    canvas.picture({0, 0, 20, 10}, picture, 0, 3, {1, 1, 1, 1}, 192, 120);
+    canvas.picture({0, 0, 20, 10}, {picture, 0, 3, {1, 1, 1, 1}, 192, 120});
     EXPECT_EQ(at(1, 1), kBlack);
     EXPECT_EQ(at(2, 2), 0xFF00FF00) << "the margins grow with the resolution, and colours turn";
-    canvas.picture({0, 0, 20, 10}, picture, 3, 3, {1, 1, 1, 1}, 96, 0);
-    canvas.picture({0, 0, 20, 10}, {1, 1, {0x00FF0000}}, 0, 1, {}, 96, 0);
+    canvas.picture({0, 0, 20, 10}, {picture, 3, 3, {1, 1, 1, 1}});
+    canvas.picture({0, 0, 20, 10}, {Picture{1, 1, {0x00FF0000}}, 0, 1});
     EXPECT_EQ(count(kWhite), kWidth * kHeight) << "the second state, and transparent pixels on top";
-    canvas.picture({0, 0, 1, 1}, picture, 0, 3, {1, 1, 1, 1}, 96, 0);
-    canvas.picture({5, 5, 7, 7}, picture, 0, 3, {1, 1, 1, 1}, 960, 0);
+    canvas.picture({0, 0, 1, 1}, {picture, 0, 3, {1, 1, 1, 1}});
+    canvas.picture({5, 5, 7, 7}, {picture, 0, 3, {1, 1, 1, 1}, 960});
     EXPECT_EQ(at(5, 5), kBlack) << "smaller than its margins";
 }
 
@@ -147,4 +148,4 @@ TEST_F(CanvasTest, HighContrastHasOnlyTheSystemsColours) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <chrono>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr const char* kHead = "[Skin]\nFormat=1\n";
@@ -181,4 +181,4 @@ TEST_F(SkinFileTest, RubbishOfAnyLengthIsDoneWithAtOnce) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 std::string counted(std::size_t size) { return littleEndian(static_cast<std::uint32_t>(size), 4); }
@@ -90,4 +90,4 @@ TEST(SkinProperties, ADialogsDataIsSearchedForTheControl) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

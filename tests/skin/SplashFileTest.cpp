@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 TEST(SplashFile, ThePictureIsReadOrTheMistakeNamed) {
@@ -33,4 +33,4 @@ TEST(SplashFile, ThePictureIsReadOrTheMistakeNamed) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

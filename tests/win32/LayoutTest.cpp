@@ -71,7 +71,7 @@ protected:
         SIZE text{};
         switch (control.kind) {
             case ControlKind::Header: {
-                const SkinMargins& margins = engine.look("Label").margins;
+                const skin::SkinMargins& margins = engine.look("Label").margins;
                 room = {room.cx - margins.left - margins.right, room.cy - margins.top - margins.bottom};
                 text = headerExtent(control.text, room.cx);
                 break;
@@ -96,7 +96,7 @@ protected:
     }
 
     Win32DialogEnvironment environment;
-    Win32SkinEngine engine;
+    skin::Win32SkinEngine engine;
     HDC dc;
     HFONT bold = nullptr;
 };

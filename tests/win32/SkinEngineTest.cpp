@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 constexpr const char* kOwnSkin = "data/Skin/skin.skn";
@@ -23,7 +23,7 @@ constexpr const char* kColourful =
     "[Skin]\nFormat=1\n"
     "[Main]\nFill=#110000\nFill.Inactive=#120000\nBorder=#130000\nText=#140000\nMargins=5, 5, 5, 5\n"
     "CaptionHeight=30\nButtons=HELP, Minimize, Close\n"
-    "[FrameButton]\nFill=#210000\n"
+    "[FrameButton]\nFill=#210000\nFill.Hot=#220000\n"
     "[SubMain]\nFill=#310000\nText=#320000\n"
     "[Label]\nFill=#410000\nBorder=#420000\nMargins=4, 4, 4, 4\n"
     "[CheckBox]\nFill=#510000\nFill.Disabled=#520000\nFill.Pressed=#530000\nMark=#540000\n"
@@ -222,6 +222,20 @@ TEST_F(SkinnedFrameTest, GoesAroundAnInsideThatKeepsItsSizeAndIsHitWhereItIsDraw
     EXPECT_EQ(picture.at(200, 15), RGB(0x12, 0, 0)) << "the caption of an inactive window";
     EXPECT_EQ(picture.at(0, 100), RGB(0x13, 0, 0)) << "the line around it";
     EXPECT_EQ(picture.at(right - 3, 7), RGB(0x21, 0, 0)) << "a button";
+    const auto expectClose = [&](COLORREF colour) {
+        SendMessageA(window, WM_PRINT, reinterpret_cast<WPARAM>(picture.dc()), PRF_NONCLIENT);
+        GdiFlush();
+        EXPECT_EQ(picture.at(right - 3, 7), colour);
+    };
+    ShowWindow(window, SW_SHOWNA);
+    SetCursorPos(outside.left + right - 5, outside.top + 15);
+    SendMessageA(window, WM_NCMOUSEMOVE, HTCLOSE, screen(right - 5, 15));
+    expectClose(RGB(0x22, 0, 0));
+    SendMessageA(window, 0x02A2, 0, 0);  // WM_NCMOUSELEAVE
+    expectClose(RGB(0x21, 0, 0));
+    SetCursorPos(0, 0);
+    SendMessageA(window, WM_NCMOUSEMOVE, HTCLOSE, screen(right - 5, 15));
+    expectClose(RGB(0x21, 0, 0));  // the message came late
     SendMessageA(window, WM_NCACTIVATE, TRUE, 0);
     SendMessageA(window, WM_PRINT, reinterpret_cast<WPARAM>(picture.dc()), PRF_NONCLIENT);
     GdiFlush();
@@ -267,4 +281,4 @@ TEST(SkinEngineResource, HoldsWellFormedProperties) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

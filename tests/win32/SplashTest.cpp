@@ -10,7 +10,7 @@
 
 #include <string>
 
-namespace korvane {
+namespace korvane::skin {
 namespace {
 
 HWND shownSplash() {
@@ -120,4 +120,4 @@ TEST_F(SplashTest, GoesWhenTheMainWindowIsThereButNotBeforeItsTime) {
 }
 
 }  // namespace
-}  // namespace korvane
+}  // namespace korvane::skin

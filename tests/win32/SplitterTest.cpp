@@ -1,6 +1,6 @@
 // Dragging the divider by mouse messages, as the mouse sends them.
 #include "platform/win32/Splitter.h"
-#include "platform/win32/Win32Dialog.h"
+#include "platform/win32/WindowFunctions.h"
 #include "tests/win32/ParentWindow.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ protected:
     SplitterTest() {
         const HINSTANCE instance = GetModuleHandleA(nullptr);
         registerSplitterClass(instance);
-        splitter = createSplitter(instance, parent.window(), kId, {kLeft, 50, kLeft + 2, 396}, 50, 10);
+        splitter = createSplitter(instance, parent.window(), kId, {kLeft, 50, kLeft + 2, 396}, {.left = 50, .right = 10});
     }
 
     void onMessage(UINT message, LPARAM lParam) {

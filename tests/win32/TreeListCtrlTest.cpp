@@ -270,7 +270,7 @@ TEST_F(TreeBackgroundTest, WhatIsNoPictureLeavesTheBackgroundPlain) {
         writeFile(folder.file("bad.jpg"), content);
         EXPECT_EQ(loadedWidth(folder.file("bad.jpg")), 0) << content.size();
     }
-    writeFile(folder.file("bitmap.jpg"), greyBitmap(70, 30));
+    writeFile(folder.file("bitmap.jpg"), skin::greyBitmap(70, 30));
     EXPECT_EQ(loadedWidth(folder.file("bitmap.jpg")), 70);
 }
 
