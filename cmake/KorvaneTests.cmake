@@ -22,6 +22,9 @@ endif()
 function(korvane_test_program name)
     add_executable(${name} ${ARGN})
     target_link_libraries(${name} PRIVATE korvane_warnings korvane_all korvane_googletest)
+    # Tests are compiled often and run for a short time.
+    target_compile_options(${name} PRIVATE -O0 -g1)
+    target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <algorithm> <map> <memory> <set> <string> <vector>)
     add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
 endfunction()
 
