@@ -180,8 +180,8 @@ def size_faults(text):
     for name, line, lines, parameters in functions(code):
         if lines > MOST_FUNCTION_LINES:
             yield line, f"{name} has more than {MOST_FUNCTION_LINES} lines"
-        # A macro that looks like a declaration, as GoogleTest's, may have more.
-        if not re.fullmatch("[A-Z0-9_]{3,}", name) and count_parameters(parameters) > MOST_PARAMETERS:
+        # Macros like GoogleTest's, and constants with constructor arguments, look like declarations but are none.
+        if not re.fullmatch(r"[A-Z0-9_]{3,}|k[A-Z]\w*", name) and count_parameters(parameters) > MOST_PARAMETERS:
             yield line, f"{name} has more than {MOST_PARAMETERS} parameters"
 
 

@@ -48,6 +48,7 @@ class Sizes(unittest.TestCase):
                 self.assertEqual(len(found("text/A.h", head + ", int z" + end)), 1, head + end)
 
     def test_files_and_macros(self):
+        self.assertEqual(found("text/A.cpp", "constexpr Group kGroup({0, 5}, kA, kB, kC, kD, kE);"), [])
         self.assertEqual(found("text/A.cpp", "\n" * 401), ["has more than 400 lines"])
         self.assertEqual(found("res/A.inc", "#define NOT !\n#define HAS(x) (!(x))\n#define EMPTY\n"),
                          ["NOT is a macro that stands for an operator"])
