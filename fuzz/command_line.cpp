@@ -1,5 +1,5 @@
 // Fuzz target: arguments, one a line. Whatever they are, they are either understood, with every member within its
-// range, or refused with one line that a terminal can show.
+// range, or refused with one line, which a terminal can show as it is printed.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/CommandLine.h"
+#include "cli/SafeText.h"
 
 namespace {
 
@@ -49,7 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto parsed = korvane::parseCommandLine(arguments);
     if (const auto* error = std::get_if<korvane::UsageError>(&parsed)) {
         require(!error->message.empty());
-        require(std::ranges::none_of(error->message, [](unsigned char c) { return c < ' ' || c == 0x7F; }));
+        const std::string shown = korvane::safeLine(error->message);
+        require(std::ranges::none_of(shown, [](unsigned char c) { return c < ' ' || c == 0x7F; }));
     } else {
         checkUnderstood(std::get<korvane::CommandLine>(parsed));
     }
