@@ -6,6 +6,7 @@
 #include "cli/InputFile.h"
 #include "pages/PageLayout.h"
 #include "regfile/RegFile.h"
+#include "regfile/RegFileIndex.h"
 #include "res/ControlIds.h"
 
 #include <algorithm>
@@ -49,11 +50,8 @@ std::optional<Problem> Session::openRegistry() {
     } else if (const std::optional<std::string> error = readInputFile(file, bytes)) {
         return unreadable(file + ": " + *error);
     }
-    if (const std::optional<RegFileError> error = loadRegFile(bytes, fileRegistry_)) {
+    if (const std::optional<RegFileError> error = loadRegFile(std::move(bytes), fileRegistry_)) {
         return unreadable(file + ':' + std::to_string(error->line) + ": " + error->reason);
-    }
-    if (options_.command == Command::Apply) {
-        savedBefore_ = saveRegFile(fileRegistry_);
     }
     return std::nullopt;
 }
@@ -189,7 +187,7 @@ std::optional<Problem> Session::saveRegistry(bool& written) {
     }
     std::string error;
     const std::optional<std::string> bytes = saveRegFile(fileRegistry_, &error);
-    if (bytes && bytes == savedBefore_) {
+    if (bytes && bytes == fileRegistry_.file()->text().bytes()) {
         return std::nullopt;
     }
     std::optional<Problem> problem =

@@ -70,7 +70,7 @@ public:
     MemoryDialog* page();
 
     bool worksOnFile() const { return live_ == nullptr; }
-    // Writes the .reg file back if the registry is another than before the start, and says so.
+    // Writes the .reg file back if that changes it, and says so.
     std::optional<Problem> saveRegistry(bool& written);
     // Writes the date of the selected item, if it was stamped. False, and noted, if dates could not be read from or written to the
     // program folder.
@@ -88,7 +88,6 @@ private:
     std::unique_ptr<LiveSystem> live_;
     MemoryRegistry fileRegistry_;
     FileUpdate update_;  // of the registry file, when it is to be changed
-    std::optional<std::string> savedBefore_;
     ProgramText encoding_ = ProgramText::Windows1252;
 
     RecordedMessageBoxes messages_;

@@ -2,10 +2,10 @@
 #include "regfile/MemoryRegistry.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 #include <vector>
 
+#include "regfile/RegFileIndex.h"
 #include "text/Codepage.h"
 
 namespace korvane {
@@ -35,61 +35,65 @@ std::vector<std::byte> dataAsAnsi(const RegistryValue& value) {
     return {bytes.begin(), bytes.end()};
 }
 
-std::u16string upperPathOf(const RegistryKey& key) {
-    const std::u16string name = upperCase(key.name());
-    return key.parent() == nullptr ? name : upperPathOf(*key.parent()) + u'\\' + name;
-}
-
 std::u16string joinUpper(std::u16string base, std::u16string_view path) {
     return path.empty() ? std::move(base) : std::move(base) + u'\\' + upperCase(path);
 }
 
 }  // namespace
 
+MemoryRegistry::MemoryRegistry() = default;
+MemoryRegistry::~MemoryRegistry() = default;
+
+void MemoryRegistry::setFile(std::unique_ptr<RegFileIndex> file) { file_ = std::move(file); }
+
+void MemoryRegistry::setContent(RegistryTree tree, std::unique_ptr<RegFileIndex> file) {
+    tree_ = std::move(tree);
+    file_ = std::move(file);
+}
+
 Status MemoryRegistry::connect(Root root, RegistryHandle& handle) {
-    const std::shared_ptr<RegistryKey>& key = tree_.root(root);
-    if (isDenied(upperPathOf(*key))) {
+    if (!denied_.empty() && isDenied(upperPathOf(RegistryTree::root(root)))) {
         return Status::AccessDenied;
     }
-    handle = makeHandle(key);
+    handle = makeHandle(RegistryTree::root(root));
     return Status::Success;
 }
 
 Status MemoryRegistry::openKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = findKey(parent, widen(path), found); status != Status::Success) {
         return status;
     }
-    if (!limited_.empty() && limited_.contains(upperPathOf(*found))) {
+    if (!limited_.empty() && limited_.contains(upperPathOf(found))) {
         return Status::AccessDenied;
     }
-    key = makeHandle(std::move(found));
+    key = makeHandle(found);
     return Status::Success;
 }
 
 Status MemoryRegistry::createKey(const RegistryHandle& parent, std::string_view path, RegistryHandle& key) {
     const std::u16string widePath = widen(path);
-    std::shared_ptr<RegistryKey> start;
+    KeyId start = kNoKey;
     if (const Status status = startOf(parent, widePath, start); status != Status::Success) {
         return status;
     }
-    if (RegistryTree::find(start, widePath) != nullptr) {
+    if (tree_.find(start, widePath) != kNoKey) {
         return openKey(parent, path, key);
     }
     if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
-    key = makeHandle(RegistryTree::create(std::move(start), widePath));
+    key = makeHandle(tree_.create(start, widePath));
     return Status::Success;
 }
 
 Status MemoryRegistry::queryValue(const RegistryHandle& key, std::string_view name, std::span<std::byte> buffer,
                                   std::size_t& size, ValueType* type) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = keyOf(key, found); status != Status::Success) {
         return status;
     }
-    const RegistryValue* value = found->findValue(widen(name));
+    const RegistryValue* value = tree_.values(found).find(widen(name));
     if (value == nullptr) {
         return Status::FileNotFound;
     }
@@ -110,7 +114,7 @@ Status MemoryRegistry::queryValue(const RegistryHandle& key, std::string_view na
 
 Status MemoryRegistry::setValue(const RegistryHandle& key, std::string_view name, ValueType type,
                                 std::span<const std::byte> data) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = keyOf(key, found); status != Status::Success) {
         return status;
     }
@@ -122,41 +126,41 @@ Status MemoryRegistry::setValue(const RegistryHandle& key, std::string_view name
         return status;
     }
     const auto number = static_cast<std::uint32_t>(type);
-    found->setValue(wideName, number,
-                    holdsText(number) ? textToData(data) : std::vector<std::byte>(data.begin(), data.end()));
+    tree_.setValue(found, wideName, number,
+                   holdsText(number) ? textToData(data) : std::vector<std::byte>(data.begin(), data.end()));
     return Status::Success;
 }
 
 Status MemoryRegistry::deleteValue(const RegistryHandle& key, std::string_view subkey, std::string_view name) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     const std::u16string path = widen(subkey);
     const Status status = path.empty() ? keyOf(key, found) : findKey(key, path, found);
     if (status != Status::Success) {
         return status;
     }
     const std::u16string wideName = widen(name);
-    if (found->findValue(wideName) == nullptr) {
+    if (tree_.values(found).find(wideName) == nullptr) {
         return Status::FileNotFound;
     }
     if (const Status refused = countChange(); refused != Status::Success) {
         return refused;
     }
-    found->removeValue(wideName);
+    tree_.removeValue(found, wideName);
     return Status::Success;
 }
 
 Status MemoryRegistry::deleteKey(const RegistryHandle& parent, std::string_view path) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = findKey(parent, widen(path), found); status != Status::Success) {
         return status;
     }
-    if (found->parent() == nullptr || !found->subkeys().empty()) {
+    if (RegistryTree::isRoot(found) || tree_.hasSubkeys(found)) {
         return Status::AccessDenied;
     }
     if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
-    found->parent()->removeSubkey(found->name());
+    remove(found);
     return Status::Success;
 }
 
@@ -165,68 +169,70 @@ Status MemoryRegistry::deleteTree(const RegistryHandle& parent, std::string_view
     if (widePath.empty()) {
         return Status::InvalidParameter;
     }
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = findKey(parent, widePath, found); status != Status::Success) {
         return status;
     }
-    if (holdsDenied(upperPathOf(*found))) {
+    if (!denied_.empty() && holdsDenied(upperPathOf(found))) {
         return Status::AccessDenied;
     }
     if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
-    found->parent()->removeSubkey(found->name());
+    remove(found);
     return Status::Success;
 }
 
 Status MemoryRegistry::enumerateKey(const RegistryHandle& key, std::uint32_t index, std::string& name) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = keyOf(key, found); status != Status::Success) {
         return status;
     }
-    if (index >= found->subkeys().size()) {
+    const std::vector<KeyId>& subkeys = tree_.subkeys(found);
+    if (index >= subkeys.size()) {
         return Status::NoMoreItems;
     }
-    name = toAnsi(std::next(found->subkeys().begin(), index)->second->name());
+    name = toAnsi(tree_.name(subkeys[index]));
     return Status::Success;
 }
 
 Status MemoryRegistry::enumerateValue(const RegistryHandle& key, std::uint32_t index, std::string& name) {
-    std::shared_ptr<RegistryKey> found;
+    KeyId found = kNoKey;
     if (const Status status = keyOf(key, found); status != Status::Success) {
         return status;
     }
-    if (index >= found->values().size()) {
+    const RegistryValue* value = tree_.values(found).at(index);
+    if (value == nullptr) {
         return Status::NoMoreItems;
     }
-    name = toAnsi(std::next(found->values().begin(), index)->name);
+    name = toAnsi(value->name);
     return Status::Success;
 }
 
 void MemoryRegistry::deny(Root root, std::string_view path) {
-    denied_.insert(joinUpper(upperPathOf(*tree_.root(root)), widen(path)));
+    denied_.insert(joinUpper(upperPathOf(RegistryTree::root(root)), widen(path)));
 }
 
 void MemoryRegistry::closeKey(std::uintptr_t handle) noexcept { handles_.erase(handle); }
 
-Status MemoryRegistry::keyOf(const RegistryHandle& handle, std::shared_ptr<RegistryKey>& key) const {
+Status MemoryRegistry::keyOf(const RegistryHandle& handle, KeyId& key) const {
     const auto found = handles_.find(handle.value());
     if (found == handles_.end()) {
         return Status::InvalidHandle;
     }
-    if (found->second->deleted()) {
+    if (found->second.deleted) {
         return Status::KeyDeleted;
     }
-    key = found->second;
+    key = found->second.key;
     return Status::Success;
 }
 
 Status MemoryRegistry::startOf(const RegistryHandle& handle, std::u16string_view path,
-                               std::shared_ptr<RegistryKey>& start) const {
+                               KeyId& start) const {
     if (const Status status = keyOf(handle, start); status != Status::Success) {
         return status;
     }
-    switch (RegistryTree::checkPath(start->depth(), path)) {
+    switch (RegistryTree::checkPath(tree_.depth(start), path)) {
         case PathFault::None:
             break;
         case PathFault::EmptyName:
@@ -235,26 +241,37 @@ Status MemoryRegistry::startOf(const RegistryHandle& handle, std::u16string_view
         case PathFault::TooDeep:
             return Status::InvalidParameter;
     }
-    return isDenied(joinUpper(upperPathOf(*start), path)) ? Status::AccessDenied : Status::Success;
+    return !denied_.empty() && isDenied(joinUpper(upperPathOf(start), path)) ? Status::AccessDenied : Status::Success;
 }
 
 Status MemoryRegistry::findKey(const RegistryHandle& handle, std::u16string_view path,
-                               std::shared_ptr<RegistryKey>& key) const {
-    std::shared_ptr<RegistryKey> start;
+                               KeyId& key) const {
+    KeyId start = kNoKey;
     if (const Status status = startOf(handle, path, start); status != Status::Success) {
         return status;
     }
-    key = RegistryTree::find(std::move(start), path);
-    return key == nullptr ? Status::FileNotFound : Status::Success;
+    const KeyId found = tree_.find(start, path);
+    if (found == kNoKey) {
+        return Status::FileNotFound;
+    }
+    key = found;
+    return Status::Success;
 }
 
-RegistryHandle MemoryRegistry::makeHandle(std::shared_ptr<RegistryKey> key) {
-    handles_.emplace(++lastHandle_, std::move(key));
+RegistryHandle MemoryRegistry::makeHandle(KeyId key) {
+    handles_.emplace(++lastHandle_, Opened{key, false});
     return {*this, lastHandle_};
 }
 
+void MemoryRegistry::remove(KeyId key) {
+    tree_.remove(key);
+    for (auto& [handle, opened] : handles_) {
+        opened.deleted = opened.deleted || !tree_.exists(opened.key);
+    }
+}
+
 void MemoryRegistry::denyFullAccess(Root root, std::string_view path) {
-    limited_.insert(joinUpper(upperPathOf(*tree_.root(root)), widen(path)));
+    limited_.insert(joinUpper(upperPathOf(RegistryTree::root(root)), widen(path)));
 }
 
 void MemoryRegistry::allowAll() {
@@ -274,10 +291,9 @@ Status MemoryRegistry::countChange() {
     return Status::Success;
 }
 
+std::u16string MemoryRegistry::upperPathOf(KeyId key) const { return upperCase(tree_.path(key)); }
+
 bool MemoryRegistry::isDenied(const std::u16string& path) const {
-    if (denied_.empty()) {
-        return false;
-    }
     for (std::size_t end = path.find(u'\\');; end = path.find(u'\\', end + 1)) {
         if (denied_.contains(std::u16string_view(path).substr(0, end))) {
             return true;

@@ -17,11 +17,14 @@
 
 namespace korvane {
 
+class RegFileIndex;
+
 // Must outlive the handles it gave out. Texts cross the 8-bit verbs in Windows-1252; a character that has no place
 // there reads as '?'. The four roots are separate trees: no root mirrors a part of another.
 class MemoryRegistry final : public Registry {
 public:
-    MemoryRegistry() = default;
+    MemoryRegistry();
+    ~MemoryRegistry() override;
     MemoryRegistry(const MemoryRegistry&) = delete;
     MemoryRegistry& operator=(const MemoryRegistry&) = delete;
 
@@ -55,23 +58,38 @@ public:
     RegistryTree& tree() { return tree_; }
     const RegistryTree& tree() const { return tree_; }
 
+    // The text that the registry is saved to; null when none has been loaded.
+    const RegFileIndex* file() const { return file_.get(); }
+    void setFile(std::unique_ptr<RegFileIndex> file);
+    // Takes the place of a registry without keys. The tree must have started from the file.
+    void setContent(RegistryTree tree, std::unique_ptr<RegFileIndex> file);
+
 private:
     void closeKey(std::uintptr_t handle) noexcept override;
 
+    // An open handle: the key, and whether it has been deleted since. A new key of the same name is another key.
+    struct Opened {
+        KeyId key;
+        bool deleted;
+    };
+
     // The key behind a handle, or why there is none.
-    Status keyOf(const RegistryHandle& handle, std::shared_ptr<RegistryKey>& key) const;
+    Status keyOf(const RegistryHandle& handle, KeyId& key) const;
     // The checks that stand before every walk from a handle along a path.
-    Status startOf(const RegistryHandle& handle, std::u16string_view path, std::shared_ptr<RegistryKey>& start) const;
+    Status startOf(const RegistryHandle& handle, std::u16string_view path, KeyId& start) const;
     // Both, and the walk itself: the existing key at the path.
-    Status findKey(const RegistryHandle& handle, std::u16string_view path, std::shared_ptr<RegistryKey>& key) const;
-    RegistryHandle makeHandle(std::shared_ptr<RegistryKey> key);
+    Status findKey(const RegistryHandle& handle, std::u16string_view path, KeyId& key) const;
+    RegistryHandle makeHandle(KeyId key);
+    void remove(KeyId key);
+    std::u16string upperPathOf(KeyId key) const;
     bool isDenied(const std::u16string& path) const;
     bool holdsDenied(const std::u16string& path) const;
     // Asked just before each change: counts it, or refuses it.
     Status countChange();
 
+    std::unique_ptr<RegFileIndex> file_;  // from which the tree reads
     RegistryTree tree_;
-    std::map<std::uintptr_t, std::shared_ptr<RegistryKey>> handles_;
+    std::map<std::uintptr_t, Opened> handles_;
     std::uintptr_t lastHandle_ = 0;
     std::set<std::u16string, std::less<>> denied_;  // full paths in upper case, from the root's name on
     std::set<std::u16string, std::less<>> limited_;  // the same, of denyFullAccess

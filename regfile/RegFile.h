@@ -1,5 +1,5 @@
 // Registry contents as .reg text: the text that the registry editor exports and imports, in both its forms ("Windows
-// Registry Editor Version 5.00" and "REGEDIT4"). Comments are not kept: what is loaded and saved again has lost them.
+// Registry Editor Version 5.00" and "REGEDIT4"). A file is edited, not written anew: what people have put into it stays.
 #pragma once
 
 #include <cstddef>
@@ -18,14 +18,18 @@ struct RegFileError {
 
 // Merges the text into the registry as an import does: listed keys are created, listed values set, and what is marked
 // with a minus sign is deleted. After an error the registry is as it was. Denied keys do not matter here.
-// Understood: UTF-16LE with byte order mark, UTF-8 with or without one, and Windows-1252; any line ends.
-// The first text loaded into a registry decides the form and the encoding it is saved in.
-std::optional<RegFileError> loadRegFile(std::string_view bytes, MemoryRegistry& registry);
+// Understood: UTF-16LE with byte order mark, UTF-8 with or without one, and the system's code page; any line ends; up
+// to 2 GB.
+// The first text loaded into a registry decides the form and the encoding it is saved in. When the registry held
+// nothing before, it is the text that is edited when the registry is saved, and the registry keeps it until then.
+std::optional<RegFileError> loadRegFile(std::string bytes, MemoryRegistry& registry);
 
-// The whole registry as the bytes of a .reg file, laid out as the registry editor does it; a registry that no text was
-// loaded into becomes a version 5.00 file in UTF-16LE. Keys stand in the order of the file read, new keys behind their
-// siblings in alphabetical order. Nothing, and a reason in `error` (UTF-8) that names the key or value, when the form
-// of the file cannot hold a name or a text.
+// The bytes of a .reg file that gives the whole registry when it is imported: those that were loaded, with every line
+// as it was except for values and keys that have changed since. The data of a changed value is replaced, a new value
+// goes to the end of its key's section, a new key's section behind that of its nearest relative; the lines of deleted
+// values and the sections of deleted keys go. What is new is laid out as the registry editor does it. A registry that
+// no text was loaded into becomes a version 5.00 file in UTF-16LE. Nothing, and a reason in `error` (UTF-8) that names
+// the key or value, when the form of the file cannot hold a name or a text.
 std::optional<std::string> saveRegFile(const MemoryRegistry& registry, std::string* error = nullptr);
 
 // For comparing states: the same states give the same text, however they came about. Key blocks as in a version 5.00

@@ -1,19 +1,21 @@
-// The keys and values a MemoryRegistry holds: names and text data in UTF-16 as Windows NT stores them, so that any
-// script survives loading and saving, and the place each key had in the .reg file it came from.
+// The keys a MemoryRegistry holds and the values of those that were asked for. A registry of a hundred megabytes has
+// some hundred thousand keys, of which a run looks at a few: so keys are short records in one array, and values are
+// read from where they are stored when somebody wants them. What has been changed since is remembered.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <list>
-#include <map>
+#include <deque>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Registry.h"
+#include "regfile/NamePool.h"
+#include "regfile/RegistryValues.h"
 
 namespace korvane {
 
@@ -22,63 +24,9 @@ inline constexpr std::size_t kMaxKeyName = 255;
 inline constexpr std::size_t kMaxValueName = 16383;
 inline constexpr std::size_t kMaxKeyDepth = 512;
 
-// True for the types whose data the 8-bit calls convert.
-constexpr bool holdsText(std::uint32_t type) {
-    const auto which = static_cast<ValueType>(type);
-    return which == ValueType::Sz || which == ValueType::ExpandSz || which == ValueType::MultiSz;
-}
-
-struct RegistryValue {
-    std::u16string name;  // empty: the key's default value
-    std::uint32_t type = 0;
-    std::vector<std::byte> data;  // as stored: text is UTF-16LE with its terminating zero
-};
-
-class RegistryKey {
-public:
-    // In the order Windows enumerates them: by upper-case name.
-    using Subkeys = std::map<std::u16string, std::shared_ptr<RegistryKey>, std::less<>>;
-    // In order of creation.
-    using Values = std::list<RegistryValue>;
-
-    RegistryKey(RegistryKey* parent, std::u16string_view name) : parent_(parent), name_(name) {}
-    RegistryKey(const RegistryKey&) = delete;
-    RegistryKey& operator=(const RegistryKey&) = delete;
-
-    const std::u16string& name() const { return name_; }
-    RegistryKey* parent() const { return parent_; }  // null for a root and for a deleted key
-    bool deleted() const { return deleted_; }
-    std::size_t depth() const;  // 0 for a root
-    const Subkeys& subkeys() const { return subkeys_; }
-    const Values& values() const { return values_; }
-
-    std::shared_ptr<RegistryKey> findSubkey(std::u16string_view name) const;
-    // The caller has made sure that the name is new and within the limits.
-    std::shared_ptr<RegistryKey> addSubkey(std::u16string_view name);
-    // Takes the subkey out; it and all below it are marked deleted. False when there is none.
-    bool removeSubkey(std::u16string_view name);
-
-    const RegistryValue* findValue(std::u16string_view name) const;
-    // An existing value keeps its place and the spelling of its name.
-    void setValue(std::u16string_view name, std::uint32_t type, std::vector<std::byte> data);
-    bool removeValue(std::u16string_view name);
-
-    // Position among the key blocks of the file read, from 1; 0 when no block named this key.
-    std::uint64_t fileOrder = 0;
-    // True when the key came about only because the file read named a key below it: without a block of its own it is
-    // not written unless it must be.
-    bool implied = false;
-
-private:
-    void markDeleted();
-
-    RegistryKey* parent_;
-    std::u16string name_;
-    bool deleted_ = false;
-    Subkeys subkeys_;
-    Values values_;
-    std::map<std::u16string, Values::iterator, std::less<>> valueIndex_;  // by upper-case name
-};
+// Names a path, not one life of a key: a key that is deleted and made again has the number it had before.
+using KeyId = std::uint32_t;
+inline constexpr KeyId kNoKey = 0xFFFFFFFF;
 
 struct RegistryRootName {
     std::string_view longName;
@@ -96,39 +44,95 @@ inline constexpr std::array<RegistryRootName, 7> kRegistryRoots{{
     {"HKEY_PERFORMANCE_DATA", "HKPD"},
 }};
 
-// The form of a .reg file.
-enum class RegFileHeader : std::uint8_t { Version5, Regedit4 };
-enum class RegFileEncoding : std::uint8_t { Utf16, Ansi, Utf8, Utf8WithMark };
-struct RegFileForm {
-    RegFileHeader header = RegFileHeader::Version5;
-    RegFileEncoding encoding = RegFileEncoding::Utf16;
+// Where the values stand of keys that nobody has asked for yet.
+class StoredValues {
+public:
+    virtual ~StoredValues() = default;
+    virtual void read(KeyId key, RegistryValues& values) const = 0;
 };
 
 // What a walk along a path found wrong, before looking at any key.
 enum class PathFault : std::uint8_t { None, EmptyName, NameTooLong, TooDeep };
 
+// Paths are relative to a key, names separated by backslashes; an empty path is the key itself.
 class RegistryTree {
 public:
     RegistryTree();
 
-    const std::shared_ptr<RegistryKey>& root(std::size_t index) const { return roots_[index]; }
-    const std::shared_ptr<RegistryKey>& root(Root which) const { return roots_[static_cast<std::size_t>(which)]; }
+    static constexpr KeyId root(std::size_t index) { return static_cast<KeyId>(index); }
+    static constexpr KeyId root(Root which) { return static_cast<KeyId>(which); }
+    static constexpr bool isRoot(KeyId key) { return key < kRegistryRoots.size(); }
 
-    // The key itself for an empty path; null when there is none.
-    static std::shared_ptr<RegistryKey> find(std::shared_ptr<RegistryKey> start, std::u16string_view path);
-    // Makes what is missing; new keys above the last are marked as implied if wanted. The path is without fault.
-    static std::shared_ptr<RegistryKey> create(std::shared_ptr<RegistryKey> start, std::u16string_view path,
-                                               bool parentsAreImplied = false);
+    // Every number below this one names a key, existing or deleted.
+    std::size_t keyCount() const { return keys_.size(); }
+    bool exists(KeyId key) const { return keys_[key].exists; }
+    KeyId parent(KeyId key) const { return keys_[key].parent; }  // kNoKey for a root
+    std::size_t depth(KeyId key) const;                          // 0 for a root
+    std::u16string name(KeyId key) const { return names_.text(keys_[key].name); }
+    std::u16string path(KeyId key) const;  // from the root's long name on
+
+    // kNoKey when there is none. Deleted keys are found only when they are asked for.
+    KeyId find(KeyId start, std::u16string_view path, bool deletedToo = false) const;
+    // Makes what is missing. The path is without fault.
+    KeyId create(KeyId start, std::u16string_view path);
+    // Deletes an existing key that is no root, with all below it, and answers which keys those were.
+    std::vector<KeyId> remove(KeyId key);
+
+    bool hasSubkeys(KeyId key) const { return keys_[key].firstChild != kNoKey; }
+    // In the order Windows enumerates them: by upper-case name. Valid until a subkey is made or deleted.
+    const std::vector<KeyId>& subkeys(KeyId key) const;
+
+    const RegistryValues& values(KeyId key) const { return valuesOf(key); }
+    void setValue(KeyId key, std::u16string_view name, std::uint32_t type, std::vector<std::byte> data);
+    bool removeValue(KeyId key, std::u16string_view name);
+
     // `depth`: the level the path starts at, 0 for a root.
     static PathFault checkPath(std::size_t depth, std::u16string_view path);
 
-    // The form of the first file loaded into the tree; it is saved in the same form.
-    std::optional<RegFileForm> fileForm;
-    // The number of key blocks read so far.
-    std::uint64_t lastFileOrder = 0;
+    // Keys that were made or deleted, or have had values set or deleted, each once.
+    const std::vector<KeyId>& changedKeys() const { return changed_; }
+    // True when keys were made or deleted.
+    bool structureChanged() const { return structureChanged_; }
+    // What there is now counts as unchanged, and the values of its keys are those of the store, which must outlive
+    // the tree. No value has been looked at yet.
+    void startFrom(const StoredValues* stored);
 
 private:
-    std::array<std::shared_ptr<RegistryKey>, kRegistryRoots.size()> roots_;
+    struct Key {
+        KeyId parent = kNoKey;
+        KeyId firstChild = kNoKey;  // deleted keys are not among the children
+        KeyId next = kNoKey;
+        KeyId previous = kNoKey;
+        NamePool::Name name{};
+        bool exists : 1 = false;
+        bool changed : 1 = false;
+        bool ownValues : 1 = false;  // the stored ones went when it was deleted
+    };
+    // What somebody has asked about a key.
+    struct Details {
+        std::unique_ptr<RegistryValues> values;
+        std::unique_ptr<std::vector<KeyId>> subkeys;
+    };
+
+    std::size_t slotOf(KeyId parent, std::u16string_view name) const;
+    std::size_t hash(KeyId parent, std::u16string_view name) const;
+    KeyId lookUp(KeyId parent, std::u16string_view name) const { return slots_[slotOf(parent, name)]; }
+    KeyId addRecord(KeyId parent, std::u16string_view name, std::size_t slot);
+    KeyId makeSubkey(KeyId parent, std::u16string_view name);
+    void link(KeyId key);
+    void unlink(KeyId key);
+    bool comesBefore(KeyId a, KeyId b) const;
+    void growSlots();
+    void markChanged(KeyId key);
+    RegistryValues& valuesOf(KeyId key) const;
+
+    std::deque<Key> keys_;  // a vector would need room for twice as many while it grows
+    NamePool names_;
+    std::vector<KeyId> slots_;  // open addressing over parent and upper-case name
+    const StoredValues* stored_ = nullptr;
+    std::vector<KeyId> changed_;
+    bool structureChanged_ = false;
+    mutable std::unordered_map<KeyId, Details> details_;
 };
 
 }  // namespace korvane

@@ -229,9 +229,8 @@ constexpr Tweak kRunStartupProgramsCommandPrompt = {
     .title = "Run Startup Programs in Command Prompt",
     .description =
         "Names a command or program that runs each time the command interpreter starts for the current user, batch "
-        "files included, so keep it quick. An example is a batch file that extends the path. An empty field deletes "
-        "the value. A stored command of more than 201 characters is not shown here, and applying the page then "
-        "deletes it.",
+        "files included. An empty field deletes the value. A stored command of more than 201 characters is not shown "
+        "here, and applying the page then deletes it.",
     .treeParent = 1,
     .page = Page::CheckFields,
     .fields = kAutoRun,

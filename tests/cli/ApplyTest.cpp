@@ -33,12 +33,15 @@ TEST_F(ApplyTest, ChangesOneValueAndKeepsFormEncodingAndEverythingElse) {
     }
 }
 
-TEST_F(ApplyTest, AnApplyThatChangesNothingLeavesEvenCommentsAlone) {
-    const std::string own = "REGEDIT4\n; written by hand\n[HKEY_CURRENT_USER\\Console]\n\"QuickEdit\" = dword:1\n";
+TEST_F(ApplyTest, WhatSomebodyWroteIntoTheFileStays) {
+    const std::string own = "REGEDIT4\n; written by hand\n[HKCU\\Console]\n\"QuickEdit\" = dword:1 ; on\n[-HKCU\\Old]";
     writeFile(registry_, own);
     EXPECT_EQ(kmctl({"apply", "11", "1013=1"}).out,
               "Quick Edit the Command Prompt (11): applied\n" + registry_ + ": nothing in it has changed\n");
     expectUntouched(own);
+    EXPECT_EQ(kmctl({"apply", "11", "1013=0"}).out,
+              "Quick Edit the Command Prompt (11): applied\n" + registry_ + ": written\n");
+    expectUntouched(withChange(own, "dword:1 ;", "dword:00000000 ;"));
 }
 
 TEST_F(ApplyTest, ControlsAreSetInTheOrderGiven) {
