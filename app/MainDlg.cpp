@@ -3,7 +3,7 @@
 
 #include "app/AboutDlg.h"
 #include "app/StringTable.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 #include "platform/MessageBoxes.h"
 #include "res/ControlIds.h"
 

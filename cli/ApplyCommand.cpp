@@ -13,7 +13,7 @@
 namespace korvane {
 namespace {
 
-void writeAlert(JsonWriter& json, const MessageBoxRequest& alert, ProgramText encoding) {
+void writeAlert(JsonWriter& json, const MessageBoxRequest& alert, const CodePage& encoding) {
     json.beginObject();
     json.name("id");
     json.number(alert.stringId);
@@ -88,13 +88,16 @@ private:
         }
         const std::string control = std::to_string(IDC_COLOUR_COMBO);
         return wrongUsage("none of the colours of control " + control + " is stored, and it shows one at random: add " +
-                          control + "=NAME; it has " + entriesOf(*page.find(IDC_COLOUR_COMBO)));
+                          control + "=NAME; it has " + entriesOf(*page.find(IDC_COLOUR_COMBO), session_.encoding()));
     }
 
     std::optional<Problem> press() {
         if (!session_.clickApply() || !findTweak(item_)->hasApply()) {
             report(false, "nothing to apply\n");
             return std::nullopt;
+        }
+        if (std::optional<Problem> problem = session_.lossyWrite()) {
+            return problem;
         }
         bool written = false;
         if (std::optional<Problem> problem = session_.saveRegistry(written)) {
@@ -107,7 +110,7 @@ private:
         text += stamped && options_.programFolder ? ", and dated today\n" : "\n";
         if (!done.notWritten.empty()) {
             for (const std::string& place : done.written) {
-                text += "written: " + safeLine(toHost(place)) + '\n';
+                text += "written: " + safeLine(toHost(place, session_.encoding())) + '\n';
             }
         }
         if (session_.worksOnFile()) {
@@ -115,7 +118,7 @@ private:
         }
         report(stamped, text);
         for (const std::string& place : done.notWritten) {
-            output_.note("not written: " + toHost(place));
+            output_.note("not written: " + toHost(place, session_.encoding()));
         }
         status_ = refused ? ExitStatus::Refused : done.failed ? ExitStatus::Failed : ExitStatus::Done;
         return std::nullopt;
@@ -128,11 +131,12 @@ private:
             return;
         }
         for (const MessageBoxRequest& alert : session_.alerts()) {
-            output_.note(toHost(alert.text));
+            output_.note(toHost(alert.text, session_.encoding()));
         }
         if (!text.empty()) {
             const PageView view = session_.view();
-            output_.print(safeLine(toHost(view.title)) + " (" + std::to_string(view.item) + "): " + text);
+            const std::string title = safeLine(toHost(view.title, session_.encoding()));
+            output_.print(title + " (" + std::to_string(view.item) + "): " + text);
         }
     }
 

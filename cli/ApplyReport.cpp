@@ -2,7 +2,7 @@
 #include "cli/ApplyReport.h"
 
 #include "regfile/RegistryTree.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 

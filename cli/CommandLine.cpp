@@ -45,6 +45,8 @@ Options, before or behind the command:
   --windows-folder DIR     its Windows folder (C:\WINDOWS)
   --appdata-folder DIR     its user's application data folder
                        (C:\Documents and Settings\user\Application Data)
+  --code-page N        the number of its code page, such as 1251 (the one that
+                       the file names as its system's, else 1252)
   --drives LIST        its drives (A:removable,C:fixed,D:cdrom); the kinds are
                        removable, fixed, remote, cdrom and ramdisk
   --program-folder DIR Korvane Manager's folder, with its dates and language
@@ -81,6 +83,15 @@ Reason takeText(CommandLine& line, const std::string& value) {
 Reason takeWindows(CommandLine& line, const std::string& value) {
     line.windows = versionNamed(value);
     return line.windows ? Reason() : "knows 95, 98, me, nt4, 2000, xp, 2003 and vista, not " + quotedForMessage(value);
+}
+
+Reason takeCodePage(CommandLine& line, const std::string& value) {
+    const std::optional<int> number = wholeNumber(value);
+    line.codePage = number ? CodePage::open(static_cast<unsigned>(*number)) : std::nullopt;
+    if (!number) {
+        return "takes the number of a code page, such as 1251, not " + quotedForMessage(value);
+    }
+    return line.codePage ? Reason() : "names the page " + value + ", which is not known here";
 }
 
 Reason takeWindowsFolder(CommandLine& line, const std::string& value) {
@@ -133,6 +144,7 @@ constexpr ValueOption kValueOptions[] = {
     {"--program-folder", takeText<&CommandLine::programFolder>},
     {"--language", takeText<&CommandLine::language>},
     {"--windows", takeWindows},
+    {"--code-page", takeCodePage},
     {"--windows-folder", takeWindowsFolder},
     {"--appdata-folder", takeText<&CommandLine::appDataFolder>},
     {"--drives", takeDrives},
@@ -264,6 +276,7 @@ private:
             return fail("--language needs --program-folder, where the language files are");
         }
         for (const auto& [given, name] : {std::pair{line_.windows.has_value(), "--windows"},
+                                          std::pair{line_.codePage.has_value(), "--code-page"},
                                           std::pair{line_.windowsFolder.has_value(), "--windows-folder"},
                                           std::pair{line_.appDataFolder.has_value(), "--appdata-folder"},
                                           std::pair{line_.drives.has_value(), "--drives"}}) {

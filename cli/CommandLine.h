@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/System.h"
+#include "text/CodePage.h"
 
 #include <cstdint>
 #include <optional>
@@ -36,6 +37,7 @@ struct CommandLine {
     std::optional<std::string> programFolder{};
     std::optional<std::string> language{};
     // The system that the .reg file comes from.
+    std::optional<CodePage> codePage{};
     std::optional<VersionRecord> windows{};
     std::optional<std::string> windowsFolder{};  // without a trailing backslash
     std::optional<std::string> appDataFolder{};

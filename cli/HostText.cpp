@@ -1,84 +1,83 @@
-// Elsewhere than on Windows the system speaks UTF-8, and there is no live registry.
+// A text whose page is the system's own goes through unchanged, whatever its bytes are.
 #include "cli/HostText.h"
 
 #include "cli/SafeText.h"
-#include "text/Codepage.h"
+#include "regfile/LostLetters.h"
+#include "text/Utf.h"
 
-#ifdef _WIN32
-#include <windows.h>
-#endif
+#include <algorithm>
 
 namespace korvane {
-
-#ifdef _WIN32
-
 namespace {
 
-std::optional<std::u16string> fromSystemCodePage(std::string_view text) {
-    if (text.empty()) {
-        return std::u16string();
+std::string withLettersShown(std::string text) {
+    std::ranges::replace(text, kLostLetter, '?');
+    return text;
+}
+
+bool isOfHost(const CodePage& page) { return page.number() == CodePage::ofHost().number(); }
+
+std::string numberOf(std::u16string_view letter) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string number = "U+";
+    const std::uint32_t code = letter.size() == 2 ? 0x10000U + ((letter[0] & 0x3FFU) << 10) + (letter[1] & 0x3FFU)
+                                                  : letter[0];
+    for (int shift = code > 0xFFFF ? 20 : 12; shift >= 0; shift -= 4) {
+        number += kDigits[code >> shift & 0xF];
     }
-    const int size = static_cast<int>(text.size());
-    const int needed = MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(needed), L'\0');
-    if (needed <= 0 || MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), needed) != needed) {
-        return std::nullopt;
-    }
-    return std::u16string(wide.begin(), wide.end());
+    return number;
 }
 
 }  // namespace
 
-std::string toUtf8(std::string_view text, ProgramText encoding) {
-    if (encoding == ProgramText::SystemCodePage) {
-        return toUtf8(fromSystemCodePage(text).value_or(fromAnsi(text)));
-    }
-    return toUtf8(fromAnsi(text));
+std::string toUtf8(std::string_view text, const CodePage& page) {
+    return withLettersShown(toUtf8(page.toUtf16(text)));
 }
 
-std::string toHost(std::string_view text) { return std::string(text); }
+std::string toHost(std::string_view text, const CodePage& page) {
+    return withLettersShown(isOfHost(page) ? std::string(text) : CodePage::ofHost().toBytes(page.toUtf16(text)));
+}
+
+std::string toHostReadably(std::u16string_view text) {
+    std::string readable;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::u16string_view letter = characterAt(text, at);
+        at += letter.size();
+        const std::optional<std::string> shown = CodePage::ofHost().toBytesExactly(letter);
+        readable += shown && letter.front() >= u' ' ? *shown : numberOf(letter);
+    }
+    return readable;
+}
 
 // The code page may be one of one byte, of one or two, or UTF-8.
 std::size_t firstHostCharacter(std::string_view text, char32_t& character) {
-    if (GetACP() == CP_UTF8) {
+    const CodePage& host = CodePage::ofHost();
+    if (host.number() == CodePage::kUtf8) {
         return firstUtf8Character(text, character);
     }
-    const std::size_t length = IsDBCSLeadByte(static_cast<BYTE>(text.front())) != 0 && text.size() > 1 ? 2 : 1;
-    wchar_t wide = 0;
-    const bool known = MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, text.data(), static_cast<int>(length), &wide,
-                                           1) == 1;
-    character = known ? wide : kNoCharacter;
-    return known ? length : 1;
-}
-
-std::string fileNameToUtf8(std::string_view name) { return toUtf8(name, ProgramText::SystemCodePage); }
-
-std::optional<std::string> fromArgument(std::string_view argument, ProgramText encoding) {
-    if (encoding == ProgramText::SystemCodePage) {
-        return std::string(argument);
-    }
-    const std::optional<std::u16string> text = fromSystemCodePage(argument);
-    return text ? toAnsiExactly(*text) : std::nullopt;
-}
-
-#else
-
-std::string toUtf8(std::string_view text, ProgramText) { return toUtf8(fromAnsi(text)); }
-
-std::string toHost(std::string_view text) { return toUtf8(fromAnsi(text)); }
-
-std::size_t firstHostCharacter(std::string_view text, char32_t& character) {
-    return firstUtf8Character(text, character);
+    const std::u16string units = host.toUtf16(text.substr(0, 2));
+    const bool known = units.front() != u'?' || text.front() == '?';
+    character = known ? units.front() : kNoCharacter;
+    return known && units.size() == 1 ? std::min<std::size_t>(text.size(), 2) : 1;
 }
 
 // A file's name may hold any bytes.
-std::string fileNameToUtf8(std::string_view name) { return toUtf8(fromUtf8(name).value_or(fromAnsi(name))); }
-
-std::optional<std::string> fromArgument(std::string_view argument, ProgramText) {
-    const std::optional<std::u16string> text = fromUtf8(argument);
-    return text ? toAnsiExactly(*text) : std::nullopt;
+std::string fileNameToUtf8(std::string_view name) {
+    return toUtf8(fromHost(name).value_or(CodePage::western().toUtf16(name)));
 }
 
-#endif
+std::optional<std::u16string> fromHost(std::string_view argument) {
+    const CodePage& host = CodePage::ofHost();
+    return host.number() == CodePage::kUtf8 ? fromUtf8(argument) : host.toUtf16(argument);
+}
+
+std::optional<std::string> fromArgument(std::string_view argument, const CodePage& page) {
+    if (isOfHost(page)) {
+        return std::string(argument);
+    }
+    const std::optional<std::u16string> text = fromHost(argument);
+    const bool holdsMark = argument.find(kLostLetter) != std::string_view::npos;
+    return text && !holdsMark ? page.toBytesExactly(*text) : std::nullopt;
+}
 
 }  // namespace korvane

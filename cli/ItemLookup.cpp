@@ -1,7 +1,7 @@
 // By number, by exact title, by title.
 #include "cli/ItemLookup.h"
 
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 #include <vector>
 
@@ -9,11 +9,13 @@ namespace korvane {
 namespace {
 
 // Which items have that title, exactly or but for capital letters.
-std::vector<int> itemsTitled(const ItemTable& items, std::string_view title, bool exactly) {
-    const std::u16string wanted = upperCase(fromAnsi(title));
+std::vector<int> itemsTitled(const Session& session, std::string_view title, bool exactly) {
+    const ItemTable& items = session.items();
+    const auto comparable = [&](std::string_view text) { return upperCase(session.encoding().toUtf16(text)); };
+    const std::u16string wanted = comparable(title);
     std::vector<int> found;
     for (std::size_t n = 0; n < items.size(); ++n) {
-        if (exactly ? items[n].title == title : upperCase(fromAnsi(items[n].title)) == wanted) {
+        if (exactly ? items[n].title == title : comparable(items[n].title) == wanted) {
             found.push_back(items[n].id);
         }
     }
@@ -32,9 +34,9 @@ std::optional<Problem> findItem(const Session& session, const std::string& argum
                                               std::to_string(items.size() - 1)));
     }
     const std::optional<std::string> title = fromArgument(argument, session.encoding());
-    std::vector<int> found = title ? itemsTitled(items, *title, true) : std::vector<int>();
+    std::vector<int> found = title ? itemsTitled(session, *title, true) : std::vector<int>();
     if (title && found.empty()) {
-        found = itemsTitled(items, *title, false);
+        found = itemsTitled(session, *title, false);
     }
     if (found.size() == 1) {
         item = found.front();

@@ -14,15 +14,15 @@ struct ListedItem {
     int depth;
 };
 
-std::string listLine(const ListedItem& listed) {
+std::string listLine(const ListedItem& listed, const CodePage& encoding) {
     const std::string id = std::to_string(listed.item.id);
     std::string line(id.size() < 3 ? 3 - id.size() : 0, ' ');
     line += id + (listed.inTree ? "  " : "* ") + (listed.isCategory ? "category  " : "tweak     ");
     line.append(static_cast<std::size_t>(listed.depth) * 2, ' ');
-    return line + safeLine(toHost(listed.item.title)) + '\n';
+    return line + safeLine(toHost(listed.item.title, encoding)) + '\n';
 }
 
-void writeItem(JsonWriter& json, const ListedItem& listed, ProgramText encoding) {
+void writeItem(JsonWriter& json, const ListedItem& listed, const CodePage& encoding) {
     json.beginObject();
     json.name("item");
     json.number(listed.item.id);
@@ -66,7 +66,7 @@ ExitStatus listCommand(const CommandLine& options, Output& output) {
     std::string text;
     bool marked = false;
     for (const ListedItem& listed : listedItems(session, options.all)) {
-        text += listLine(listed);
+        text += listLine(listed, session.encoding());
         writeItem(json, listed, session.encoding());
         marked = marked || !listed.inTree;
     }

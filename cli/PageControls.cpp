@@ -1,7 +1,7 @@
 // One function per kind of control.
 #include "cli/PageControls.h"
 
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 
@@ -37,7 +37,8 @@ Reason setCheckBox(MemoryDialog& page, const MemoryControl& control, const Assig
     return std::nullopt;
 }
 
-Reason typeText(MemoryDialog& page, const MemoryControl& control, const Assignment& assignment, ProgramText encoding) {
+Reason typeText(MemoryDialog& page, const MemoryControl& control, const Assignment& assignment,
+                const CodePage& encoding) {
     const std::optional<std::string> text = fromArgument(assignment.value, encoding);
     if (!text) {
         return theControl(assignment) + " cannot take " + quotedForMessage(assignment.value) +
@@ -50,22 +51,25 @@ Reason typeText(MemoryDialog& page, const MemoryControl& control, const Assignme
 }
 
 // A text picks the entry of that name, in capital letters or not.
-std::optional<int> entryNamed(const MemoryControl& control, std::string_view name, ProgramText encoding) {
+std::optional<int> entryNamed(const MemoryControl& control, std::string_view name, const CodePage& encoding) {
     const std::optional<std::string> text = fromArgument(name, encoding);
     if (!text) {
         return std::nullopt;
     }
-    const std::u16string wanted = upperCase(fromAnsi(*text));
+    const auto comparable = [&](std::string_view each) { return upperCase(encoding.toUtf16(each)); };
+    const std::u16string wanted = comparable(*text);
     auto found = std::ranges::find(control.entries, *text, &MemoryComboEntry::text);
     if (found == control.entries.end()) {
-        found = std::ranges::find_if(
-            control.entries, [&](const MemoryComboEntry& entry) { return upperCase(fromAnsi(entry.text)) == wanted; });
+        found = std::ranges::find_if(control.entries, [&](const MemoryComboEntry& entry) {
+            return comparable(entry.text) == wanted;
+        });
     }
     return found == control.entries.end() ? std::nullopt
                                           : std::optional(static_cast<int>(found - control.entries.begin()));
 }
 
-Reason setCombo(MemoryDialog& page, const MemoryControl& control, const Assignment& assignment, ProgramText encoding) {
+Reason setCombo(MemoryDialog& page, const MemoryControl& control, const Assignment& assignment,
+                const CodePage& encoding) {
     const bool editable = control.kind == ControlKind::Combo;
     if (assignment.value == kNothingSelected) {
         if (!editable || !page.typeText(control.id, {})) {
@@ -78,7 +82,7 @@ Reason setCombo(MemoryDialog& page, const MemoryControl& control, const Assignme
                                          : entryNamed(control, assignment.value, encoding);
     if (!index || !page.pickComboEntry(control.id, *index)) {
         return theControl(assignment) + " has no entry " + quotedForMessage(assignment.value) + "; it has " +
-               entriesOf(control) + (editable ? ", and #-1 for none" : "");
+               entriesOf(control, encoding) + (editable ? ", and #-1 for none" : "");
     }
     return std::nullopt;
 }
@@ -112,7 +116,7 @@ Reason setList(MemoryDialog& page, const MemoryControl& control, const Assignmen
 
 }  // namespace
 
-std::string entriesOf(const MemoryControl& combo) {
+std::string entriesOf(const MemoryControl& combo, const CodePage& encoding) {
     std::string names;
     const std::size_t count = combo.entries.size();
     for (std::size_t i = 0; i < count; ++i) {
@@ -120,12 +124,12 @@ std::string entriesOf(const MemoryControl& combo) {
             i = count - 1;
             names += ", ...";
         }
-        names += (i == 0 ? "#" : ", #") + std::to_string(i) + ' ' + toHost(combo.entries[i].text);
+        names += (i == 0 ? "#" : ", #") + std::to_string(i) + ' ' + toHost(combo.entries[i].text, encoding);
     }
     return names.empty() ? "no entries" : names;
 }
 
-std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, ProgramText encoding) {
+std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, const CodePage& encoding) {
     const MemoryControl* control = page.find(assignment.control);
     if (control == nullptr) {
         return "the page has no " + theControl(assignment);

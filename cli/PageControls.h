@@ -11,9 +11,9 @@
 namespace korvane {
 
 // Why the control cannot be set so, or nothing when it is.
-std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, ProgramText encoding);
+std::optional<std::string> setControl(MemoryDialog& page, const Assignment& assignment, const CodePage& encoding);
 
 // The entries of a combo box with their numbers, for a message; of very many only the first and the last.
-std::string entriesOf(const MemoryControl& combo);
+std::string entriesOf(const MemoryControl& combo, const CodePage& encoding);
 
 }  // namespace korvane

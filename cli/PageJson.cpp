@@ -41,7 +41,7 @@ std::string_view kindName(ControlKind kind) {
 
 class PageWriter {
 public:
-    PageWriter(JsonWriter& json, ProgramText encoding) : json_(json), encoding_(encoding) {}
+    PageWriter(JsonWriter& json, const CodePage& encoding) : json_(json), encoding_(encoding) {}
 
     void write(const PageView& view) {
         const MemoryControl* header = view.controls != nullptr ? view.controls->find(IDC_HEADER) : nullptr;
@@ -149,12 +149,12 @@ private:
     }
 
     JsonWriter& json_;
-    ProgramText encoding_;
+    const CodePage& encoding_;
 };
 
 }  // namespace
 
-void writePage(JsonWriter& json, const PageView& view, ProgramText encoding) {
+void writePage(JsonWriter& json, const PageView& view, const CodePage& encoding) {
     PageWriter(json, encoding).write(view);
 }
 

@@ -8,6 +8,6 @@
 namespace korvane {
 
 // Writes the object of `show`.
-void writePage(JsonWriter& json, const PageView& view, ProgramText encoding);
+void writePage(JsonWriter& json, const PageView& view, const CodePage& encoding);
 
 }  // namespace korvane

@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-// In the encoding of the program's texts.
+// In the code page of the program's texts.
 std::string pageText(const PageView& view);
 
 }  // namespace korvane

@@ -1,9 +1,10 @@
 // Looking names up, and copies of files in memory.
 #include "cli/ProgramFolder.h"
 
-#include "platform/stdio/StdioFiles.h"
 #include "cli/HostText.h"
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
+#include "text/Utf.h"
+#include "text/WholeFile.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -98,7 +99,7 @@ std::string ProgramFolder::hostPath(const std::string& path) const {
     for (std::size_t start = folder_.size(); start < path.size();) {
         const std::size_t end = std::min(path.find('\\', start), path.size());
         if (end != start) {
-            const std::string name = toHost(path.substr(start, end - start));
+            const std::string name = toHost(path.substr(start, end - start), encoding_);
             host += '/' + spelledInFolder(host, name);
         }
         start = end + 1;
@@ -124,7 +125,10 @@ std::string FolderProfile::getString(std::string_view section, std::string_view 
     if (found == hostPaths_.end()) {
         found = hostPaths_.emplace(file, folder_.hostPath(file)).first;
     }
-    return ini_.getString(section, key, defaultValue, size, found->second);
+    if (!ini_) {
+        ini_.emplace(folder_.encoding());
+    }
+    return ini_->getString(section, key, defaultValue, size, found->second);
 }
 
 std::unique_ptr<File> CopiedFiles::openExisting(const std::string& path) {

@@ -5,6 +5,7 @@
 #include "platform/System.h"
 #include "platform/stdio/IniFile.h"
 #include "platform/memory/MemorySystem.h"
+#include "text/CodePage.h"
 
 #include <cstddef>
 #include <map>
@@ -21,10 +22,13 @@ class ProgramFolder {
 public:
     // Without a folder no path leads anywhere.
     ProgramFolder() = default;
-    explicit ProgramFolder(std::string folder) : folder_(std::move(folder)) {}
+    // `encoding` is that of the program's paths; the folder is as the system gave it.
+    explicit ProgramFolder(std::string folder, const CodePage& encoding = CodePage::western())
+        : folder_(std::move(folder)), encoding_(encoding) {}
 
     bool given() const { return !folder_.empty(); }
     bool exists() const;
+    const CodePage& encoding() const { return encoding_; }
     // What the program takes for the path of its executable.
     std::string executable() const { return given() ? folder_ + "\\KorvaneManager.exe" : std::string(); }
     // The names of its language files, without ".ini", in alphabetical order and as the host spells them.
@@ -34,6 +38,7 @@ public:
 
 private:
     std::string folder_;
+    CodePage encoding_ = CodePage::western();
 };
 
 // Whether the program would find the one file by the other's name.
@@ -49,7 +54,7 @@ public:
 private:
     const ProgramFolder& folder_;
     std::map<std::string, std::string> hostPaths_;  // by the program's path
-    IniFile ini_;
+    std::optional<IniFile> ini_;  // made when the first text is asked for: the code page is known then
 };
 
 // Reads the files of the folder and keeps what is written to them to itself.

@@ -1,11 +1,13 @@
 // Putting the pieces of a run together.
 #include "cli/Session.h"
 
-#include "cli/LockedFiles.h"
 #include "catalogue/Catalogue.h"
 #include "cli/InputFile.h"
+#include "cli/LockedFiles.h"
+#include "cli/LossyWrite.h"
 #include "pages/PageLayout.h"
 #include "regfile/RegFile.h"
+#include "regfile/RegFileCodePage.h"
 #include "regfile/RegFileIndex.h"
 #include "res/ControlIds.h"
 
@@ -37,10 +39,18 @@ std::optional<Problem> Session::start() {
 std::optional<Problem> Session::openRegistry() {
     if (!options_.registry) {
         live_ = openLiveSystem();
-        encoding_ = ProgramText::SystemCodePage;
+        encoding_ = CodePage::ofHost();
         return live_ != nullptr ? std::nullopt
                                 : std::optional(wrongUsage("--registry is needed: this system has no registry"));
     }
+    if (std::optional<Problem> problem = readRegistryFile()) {
+        return problem;
+    }
+    fileRegistry_.watchLostLetters(lostLetters_);
+    return std::nullopt;
+}
+
+std::optional<Problem> Session::readRegistryFile() {
     const std::string& file = *options_.registry;
     std::string bytes;
     if (options_.command == Command::Apply) {
@@ -50,9 +60,25 @@ std::optional<Problem> Session::openRegistry() {
     } else if (const std::optional<std::string> error = readInputFile(file, bytes)) {
         return unreadable(file + ": " + *error);
     }
+    if (std::optional<Problem> problem = chooseCodePage(bytes)) {
+        return problem;
+    }
+    fileRegistry_.setCodePage(encoding_);
     if (const std::optional<RegFileError> error = loadRegFile(std::move(bytes), fileRegistry_)) {
         return unreadable(file + ':' + std::to_string(error->line) + ": " + error->reason);
     }
+    return std::nullopt;
+}
+
+std::optional<Problem> Session::chooseCodePage(std::string_view bytes) {
+    const std::optional<std::string> named = options_.codePage ? std::nullopt : codePageNamedIn(bytes);
+    const std::optional<int> number = named ? wholeNumber(*named) : std::nullopt;
+    const std::optional<CodePage> page = number ? CodePage::open(static_cast<unsigned>(*number)) : options_.codePage;
+    if (named && !page) {
+        return unreadable(*options_.registry + ": the system's code page " + quotedForMessage(*named) +
+                          " is not known here: name another one with --code-page");
+    }
+    encoding_ = page.value_or(CodePage::western());
     return std::nullopt;
 }
 
@@ -62,7 +88,7 @@ std::optional<Problem> Session::startWindow() {
     folders_.applicationData = options_.appDataFolder.value_or(folders_.applicationData);
     folders_.drives = options_.drives.value_or(folders_.drives);
     if (options_.programFolder) {
-        programFolder_ = ProgramFolder(*options_.programFolder);
+        programFolder_ = ProgramFolder(*options_.programFolder, encoding_);
         if (!programFolder_.exists()) {
             return unreadable(*options_.programFolder + ": there is no such folder");
         }
@@ -162,6 +188,11 @@ PageView Session::view() {
             .page = shown,
             .controls = shown == Page::None ? nullptr : window_.page(layoutOf(shown).templateId),
             .applyVisible = window_.dialog().find(IDC_APPLY)->visible};
+}
+
+std::optional<Problem> Session::lossyWrite() {
+    const std::optional<std::string> reason = whyLossy(lostLetters_, page(), encoding_);
+    return reason ? std::optional(failure(*options_.registry + ": " + *reason)) : std::nullopt;
 }
 
 // A run over a .reg file has dated its own copy only: the stamp is repeated in the file as it is by now, which keeps the

@@ -57,7 +57,8 @@ public:
     int stampCount() const { return dialog_->stampCount(); }
     // What clickApply() tried to change in the registry.
     const std::vector<RegistryAttempt>& attempts() const { return journal_->attempts(); }
-    ProgramText encoding() const { return encoding_; }
+    // Of the program's texts.
+    const CodePage& encoding() const { return encoding_; }
 
     // Selects the item as a click on its row would, whether or not it has one.
     void select(int item);
@@ -69,6 +70,9 @@ public:
     // The page's controls to act on; null when nothing is shown.
     MemoryDialog* page();
 
+    // Why the .reg file cannot be written back: the program has written a text from which letters were lost when it was
+    // read.
+    std::optional<Problem> lossyWrite();
     bool worksOnFile() const { return live_ == nullptr; }
     // Writes the .reg file back if that changes it, and says so.
     std::optional<Problem> saveRegistry(bool& written);
@@ -78,6 +82,9 @@ public:
 
 private:
     std::optional<Problem> openRegistry();
+    std::optional<Problem> readRegistryFile();
+    // The one that is asked for, or that the file names as its system's.
+    std::optional<Problem> chooseCodePage(std::string_view bytes);
     std::optional<Problem> startWindow();
     Dates datesKept() const;
     std::optional<Problem> useLanguage(const std::string& name);
@@ -88,7 +95,8 @@ private:
     std::unique_ptr<LiveSystem> live_;
     MemoryRegistry fileRegistry_;
     FileUpdate update_;  // of the registry file, when it is to be changed
-    ProgramText encoding_ = ProgramText::Windows1252;
+    CodePage encoding_ = CodePage::western();
+    LostLetters lostLetters_;
 
     RecordedMessageBoxes messages_;
     MemoryVersion version_;

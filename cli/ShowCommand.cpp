@@ -22,7 +22,7 @@ ExitStatus showCommand(const CommandLine& options, Output& output) {
         writePage(json, session.view(), session.encoding());
         output.print(json);
     } else {
-        output.print(toHost(pageText(session.view())));
+        output.print(toHost(pageText(session.view()), session.encoding()));
     }
     return ExitStatus::Done;
 }

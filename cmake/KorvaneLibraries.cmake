@@ -1,8 +1,13 @@
 # The libraries: the portable core, kmctl's commands, what generates documents, and on Windows the real platform and
 # the resources.
 
+# Code pages are converted by Windows itself or by the C library.
+set(other_conversion win32)
+if(WIN32)
+    set(other_conversion iconv)
+endif()
 korvane_sources(core_sources FOLDERS app pages history lang skin catalogue platform regfile text
-    EXCLUDE "^(app|skin|platform)/win32/")
+    EXCLUDE "^(app|skin|platform)/win32/|^text/${other_conversion}/")
 korvane_library(korvane_core ${core_sources})
 
 if(WIN32)

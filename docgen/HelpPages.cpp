@@ -8,6 +8,7 @@
 #include "catalogue/Catalogue.h"
 #include "pages/PageLayout.h"
 #include "res/ControlIds.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 #include <utility>
@@ -303,13 +304,6 @@ std::string escapeHtml(std::string_view text) {
             default: result += c;
         }
     }
-    return result;
-}
-
-std::string lowerCase(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(result, result.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
     return result;
 }
 

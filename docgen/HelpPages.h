@@ -26,9 +26,6 @@ std::vector<HelpFile> makeHelp(std::span<const HelpFile> guide);
 // The text escaped for HTML, attribute values included.
 std::string escapeHtml(std::string_view text);
 
-// For sorting and comparing; changes only ASCII letters.
-std::string lowerCase(std::string_view text);
-
 // The <title> of a page and the list in its <meta name="keywords">, both still escaped.
 std::string titleOfPage(const HelpFile& page);
 std::vector<std::string> keywordsOfPage(const HelpFile& page);

@@ -4,6 +4,7 @@
 #include "docgen/TweakControls.h"
 #include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 

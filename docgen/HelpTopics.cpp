@@ -2,6 +2,7 @@
 #include "docgen/HelpTopics.h"
 
 #include "catalogue/Catalogue.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 #include <array>
@@ -12,10 +13,8 @@ namespace {
 // "Start up and Shutdown" gives "start-up-and-shutdown".
 std::string fileStem(std::string_view title) {
     std::string stem;
-    for (const char c : title) {
-        if (c >= 'A' && c <= 'Z') {
-            stem += static_cast<char>(c - 'A' + 'a');
-        } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9')) {
+    for (const char c : lowerCase(title)) {
+        if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9')) {
             stem += c;
         } else if (!stem.empty() && stem.back() != '-') {
             stem += '-';

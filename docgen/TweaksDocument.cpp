@@ -4,6 +4,7 @@
 
 #include "docgen/TweakControls.h"
 #include "catalogue/Catalogue.h"
+#include "text/CaseFolding.h"
 
 #include <utility>
 
@@ -168,10 +169,8 @@ void addGroup(std::string& document, const CatalogueGroup& group) {
 
 void addContents(std::string& document) {
     for (const CatalogueGroup& group : catalogueGroups()) {
-        std::string anchor(group.name);
-        for (char& c : anchor) {
-            c = c == ' ' ? '-' : c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-        }
+        std::string anchor = lowerCase(group.name);
+        std::ranges::replace(anchor, ' ', '-');
         document.append("- [").append(group.name).append("](#").append(anchor).append(")\n");
     }
     document += '\n';

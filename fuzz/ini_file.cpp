@@ -1,6 +1,7 @@
 // Feeds any bytes to the INI reader. Whatever stands in a file, an answer fits its buffer and holds no zero byte, and
 // a section of its own behind it is still read.
 #include "platform/stdio/IniFile.h"
+#include "text/CaseFolding.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,14 +19,6 @@ void require(bool condition) {
 
 bool isMarkedUnicode(std::string_view text) {
     return text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff") || text.starts_with("\xef\xbb\xbf");
-}
-
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return lower;
 }
 
 }  // namespace
@@ -48,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(ini.getString(name, name, name, 8, "file").size() < 8);
 
     constexpr std::string_view kOwnSection = "korvane own";
-    if (!isMarkedUnicode(text) && lowerCase(text).find(kOwnSection) == std::string::npos) {
+    if (!isMarkedUnicode(text) && korvane::lowerCase(text).find(kOwnSection) == std::string::npos) {
         ini.setContent("extended", text + "\n[Korvane Own]\nk=v\n");
         require(ini.getString(kOwnSection, "K", "", 100, "extended") == "v");
     }

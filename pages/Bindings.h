@@ -6,7 +6,7 @@
 
 #include "pages/Alerts.h"
 #include "pages/RegistryAccess.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 #include "text/ReplaceAll.h"
 #include "platform/DialogControls.h"
 

@@ -6,33 +6,18 @@
 #include <vector>
 
 #include "regfile/RegFileIndex.h"
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
 
 constexpr Status kBadPathname{161};
 
-// A text as the platform's call would see it: up to the first zero.
-std::u16string widen(std::string_view text) { return fromAnsi(text.substr(0, text.find('\0'))); }
-
-std::vector<std::byte> textToData(std::span<const std::byte> ansi) {
-    std::string text(ansi.size(), '\0');
-    std::transform(ansi.begin(), ansi.end(), text.begin(), [](std::byte b) { return static_cast<char>(b); });
-    if (!text.empty() && text.back() != '\0') {
-        text += '\0';
-    }
-    return toStored(fromAnsi(text));
-}
-
-// The data as the 8-bit verbs give it: text in Windows-1252, all else unchanged.
-std::vector<std::byte> dataAsAnsi(const RegistryValue& value) {
-    if (!holdsText(value.type)) {
-        return value.data;
-    }
-    const std::string text = toAnsi(fromStored(value.data));
-    const std::span<const std::byte> bytes = std::as_bytes(std::span(text));
-    return {bytes.begin(), bytes.end()};
+std::string asText(std::span<const std::byte> data) {
+    std::string text(data.size(), '\0');
+    std::ranges::transform(data, text.begin(), [](std::byte b) { return static_cast<char>(b); });
+    return text;
 }
 
 std::u16string joinUpper(std::u16string base, std::u16string_view path) {
@@ -80,6 +65,9 @@ Status MemoryRegistry::createKey(const RegistryHandle& parent, std::string_view 
     if (tree_.find(start, widePath) != kNoKey) {
         return openKey(parent, path, key);
     }
+    if (isLossy(start, {}, path)) {
+        return Status::InvalidParameter;
+    }
     if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
@@ -97,7 +85,7 @@ Status MemoryRegistry::queryValue(const RegistryHandle& key, std::string_view na
     if (value == nullptr) {
         return Status::FileNotFound;
     }
-    const std::vector<std::byte> bytes = dataAsAnsi(*value);
+    const std::vector<std::byte> bytes = dataAsAnsi(found, *value);
     size = bytes.size();
     if (bytes.size() > buffer.size()) {
         return Status::MoreData;
@@ -122,12 +110,15 @@ Status MemoryRegistry::setValue(const RegistryHandle& key, std::string_view name
     if (wideName.size() > kMaxValueName) {
         return Status::InvalidParameter;
     }
+    const auto number = static_cast<std::uint32_t>(type);
+    if (isLossy(found, name, name) || (holdsText(number) && isLossy(found, name, asText(data)))) {
+        return Status::InvalidParameter;
+    }
     if (const Status status = countChange(); status != Status::Success) {
         return status;
     }
-    const auto number = static_cast<std::uint32_t>(type);
     tree_.setValue(found, wideName, number,
-                   holdsText(number) ? textToData(data) : std::vector<std::byte>(data.begin(), data.end()));
+                   holdsText(number) ? dataToStore(data) : std::vector<std::byte>(data.begin(), data.end()));
     return Status::Success;
 }
 
@@ -192,7 +183,7 @@ Status MemoryRegistry::enumerateKey(const RegistryHandle& key, std::uint32_t ind
     if (index >= subkeys.size()) {
         return Status::NoMoreItems;
     }
-    name = toAnsi(tree_.name(subkeys[index]));
+    name = narrow(subkeys[index], {}, tree_.name(subkeys[index]));
     return Status::Success;
 }
 
@@ -205,12 +196,51 @@ Status MemoryRegistry::enumerateValue(const RegistryHandle& key, std::uint32_t i
     if (value == nullptr) {
         return Status::NoMoreItems;
     }
-    name = toAnsi(value->name);
+    name = narrow(found, value->name, value->name);
     return Status::Success;
 }
 
 void MemoryRegistry::deny(Root root, std::string_view path) {
     denied_.insert(joinUpper(upperPathOf(RegistryTree::root(root)), widen(path)));
+}
+
+// A text as the platform's call would see it: up to the first zero.
+std::u16string MemoryRegistry::widen(std::string_view text) const {
+    return codePage_.toUtf16(text.substr(0, text.find('\0')));
+}
+
+std::string MemoryRegistry::narrow(KeyId key, std::u16string_view name, std::u16string_view text) const {
+    std::string bytes = codePage_.toBytes(text, lost_ != nullptr ? kLostLetter : '?');
+    if (lost_ != nullptr && bytes.find(kLostLetter) != std::string::npos) {
+        lost_->read.push_back({tree_.path(key), std::u16string(name), std::u16string(text), bytes});
+    }
+    return bytes;
+}
+
+// The data as the 8-bit verbs give it: text in the code page, all else unchanged.
+std::vector<std::byte> MemoryRegistry::dataAsAnsi(KeyId key, const RegistryValue& value) const {
+    if (!holdsText(value.type)) {
+        return value.data;
+    }
+    const std::string text = narrow(key, value.name, fromStored(value.data));
+    const std::span<const std::byte> bytes = std::as_bytes(std::span(text));
+    return {bytes.begin(), bytes.end()};
+}
+
+std::vector<std::byte> MemoryRegistry::dataToStore(std::span<const std::byte> ansi) const {
+    std::string text = asText(ansi);
+    if (!text.empty() && text.back() != '\0') {
+        text += '\0';
+    }
+    return toStored(codePage_.toUtf16(text));
+}
+
+bool MemoryRegistry::isLossy(KeyId key, std::string_view name, std::string_view text) const {
+    if (lost_ == nullptr || text.find(kLostLetter) == std::string_view::npos) {
+        return false;
+    }
+    lost_->notWritten.push_back({tree_.path(key), widen(name), {}, std::string(text)});
+    return true;
 }
 
 void MemoryRegistry::closeKey(std::uintptr_t handle) noexcept { handles_.erase(handle); }

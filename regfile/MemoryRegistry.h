@@ -13,13 +13,15 @@
 #include <string_view>
 
 #include "platform/Registry.h"
+#include "regfile/LostLetters.h"
 #include "regfile/RegistryTree.h"
+#include "text/CodePage.h"
 
 namespace korvane {
 
 class RegFileIndex;
 
-// Must outlive the handles it gave out. Texts cross the 8-bit verbs in Windows-1252; a character that has no place
+// Must outlive the handles it gave out. Texts cross the 8-bit verbs in a code page; a character that has no place
 // there reads as '?'. The four roots are separate trees: no root mirrors a part of another.
 class MemoryRegistry final : public Registry {
 public:
@@ -51,6 +53,13 @@ public:
     void denyFullAccess(Root root, std::string_view path);
     // Takes back every deny.
     void allowAll();
+
+    // The code page of the 8-bit verbs, and of 8-bit files that are loaded.
+    const CodePage& codePage() const { return codePage_; }
+    void setCodePage(const CodePage& page) { codePage_ = page; }
+    // From now on letters without a place read as marks, and setValue and createKey answer InvalidParameter to a text
+    // with a mark in it. Both is noted in `lost`, which is borrowed.
+    void watchLostLetters(LostLetters& lost) { lost_ = &lost; }
 
     // How many handles are open: 0 when all that was opened has been closed.
     std::size_t openHandles() const { return handles_.size(); }
@@ -87,6 +96,16 @@ private:
     // Asked just before each change: counts it, or refuses it.
     Status countChange();
 
+    // Between the tree's texts and those of the verbs.
+    std::u16string widen(std::string_view text) const;
+    std::string narrow(KeyId key, std::u16string_view name, std::u16string_view text) const;
+    std::vector<std::byte> dataAsAnsi(KeyId key, const RegistryValue& value) const;
+    std::vector<std::byte> dataToStore(std::span<const std::byte> ansi) const;
+    // Whether a text has lost letters, which is then noted.
+    bool isLossy(KeyId key, std::string_view name, std::string_view text) const;
+
+    CodePage codePage_ = CodePage::western();
+    LostLetters* lost_ = nullptr;
     std::unique_ptr<RegFileIndex> file_;  // from which the tree reads
     RegistryTree tree_;
     std::map<std::uintptr_t, Opened> handles_;

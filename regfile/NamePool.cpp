@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 namespace korvane {
 

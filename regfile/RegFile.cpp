@@ -10,7 +10,8 @@
 #include "regfile/RegFileIndex.h"
 #include "regfile/RegFileScanner.h"
 #include "regfile/RegFileWriter.h"
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
@@ -90,7 +91,7 @@ void dumpBelow(const RegistryTree& tree, KeyId key, RegFileWriter& writer, std::
 
 std::optional<RegFileError> loadRegFile(std::string bytes, MemoryRegistry& registry) {
     RegFileText text;
-    if (std::optional<RegFileError> error = RegFileText::read(std::move(bytes), text)) {
+    if (std::optional<RegFileError> error = RegFileText::read(std::move(bytes), registry.codePage(), text)) {
         return error;
     }
     if (!isPristine(registry)) {
@@ -133,7 +134,7 @@ std::string dumpRegistry(const MemoryRegistry& registry) {
 
 std::string dumpKey(const MemoryRegistry& registry, Root root, std::string_view path) {
     const RegistryTree& tree = registry.tree();
-    const KeyId key = tree.find(RegistryTree::root(root), fromAnsi(path));
+    const KeyId key = tree.find(RegistryTree::root(root), registry.codePage().toUtf16(path));
     RegFileWriter writer;
     std::u16string text;
     if (key != kNoKey) {

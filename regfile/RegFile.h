@@ -18,7 +18,7 @@ struct RegFileError {
 
 // Merges the text into the registry as an import does: listed keys are created, listed values set, and what is marked
 // with a minus sign is deleted. After an error the registry is as it was. Denied keys do not matter here.
-// Understood: UTF-16LE with byte order mark, UTF-8 with or without one, and the system's code page; any line ends; up
+// Understood: UTF-16LE with byte order mark, UTF-8 with or without one, and the registry's code page; any line ends; up
 // to 2 GB.
 // The first text loaded into a registry decides the form and the encoding it is saved in. When the registry held
 // nothing before, it is the text that is edited when the registry is saved, and the registry keeps it until then.
@@ -36,7 +36,7 @@ std::optional<std::string> saveRegFile(const MemoryRegistry& registry, std::stri
 // file, but without header, in UTF-8, with "\n" line ends, one line per value (hex lines are not wrapped), keys and
 // values sorted, a blank line between blocks; keys that hold nothing but subkeys are left out, being implied.
 std::string dumpRegistry(const MemoryRegistry& registry);
-// The same for one key and all below it; empty when there is no such key. The path is Windows-1252.
+// The same for one key and all below it; empty when there is no such key. The path is in the registry's code page.
 std::string dumpKey(const MemoryRegistry& registry, Root root, std::string_view path);
 
 }  // namespace korvane

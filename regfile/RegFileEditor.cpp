@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "regfile/RegFilePlacement.h"
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 namespace korvane {
 namespace {

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "regfile/RegFileScanner.h"
-#include "text/Codepage.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
@@ -57,10 +57,10 @@ std::vector<std::byte> listedBytes(std::u16string_view text) {
 }
 
 // The older form has the bytes of texts in the system's code page.
-std::vector<std::byte> widened(const std::vector<std::byte>& data) {
+std::vector<std::byte> widened(const std::vector<std::byte>& data, const CodePage& page) {
     std::string narrow(data.size(), '\0');
     std::transform(data.begin(), data.end(), narrow.begin(), [](std::byte b) { return static_cast<char>(b); });
-    return toStored(fromAnsi(narrow));
+    return toStored(page.toUtf16(narrow));
 }
 
 }  // namespace
@@ -84,7 +84,7 @@ RegistryValue readEntry(const RegFileText& text, const RegFileEntry& entry) {
         case RegFileEntry::Kind::Bytes:
             value.data = listedBytes(data);
             if (text.form().header == RegFileHeader::Regedit4 && holdsText(value.type)) {
-                value.data = widened(value.data);
+                value.data = widened(value.data, text.form().page);
             }
             break;
     }

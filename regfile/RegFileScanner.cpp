@@ -7,7 +7,8 @@
 #include <utility>
 
 #include "regfile/RegistryTree.h"
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
@@ -54,10 +55,15 @@ std::optional<std::size_t> findRoot(std::u16string_view name) {
 
 struct OneByte {
     static constexpr std::size_t kWidth = 1;
+    static constexpr bool kHasPairs = false;
     static char16_t read(const char* at) { return static_cast<unsigned char>(*at); }
+};
+struct OneOrTwoBytes : OneByte {
+    static constexpr bool kHasPairs = true;
 };
 struct TwoBytes {
     static constexpr std::size_t kWidth = 2;
+    static constexpr bool kHasPairs = false;
     static char16_t read(const char* at) {
         return static_cast<char16_t>(static_cast<unsigned char>(at[0]) | static_cast<unsigned char>(at[1]) << 8);
     }
@@ -112,6 +118,14 @@ private:
     char16_t here() const { return Unit::read(bytes_ + at_); }
     bool atLineEnd() const { return atEnd() || isLineEnd(here()); }
     bool nextIs(char16_t c) const { return !atEnd() && here() == c; }
+    // One letter, in texts and names: the second byte of a pair may look like a bracket or a backslash.
+    void skipLetter() {
+        const char first = bytes_[at_];
+        at_ += Unit::kWidth;
+        if constexpr (Unit::kHasPairs) {
+            at_ += !atEnd() && text_.form().page.isPair(first, bytes_[at_]) ? Unit::kWidth : 0;
+        }
+    }
     bool take(char16_t c) {
         const bool found = nextIs(c);
         at_ += found ? Unit::kWidth : 0;
@@ -156,7 +170,7 @@ private:
         const bool deletes = take(u'-');
         const std::size_t from = at_;
         std::size_t close = end_;
-        for (; !atLineEnd(); at_ += Unit::kWidth) {
+        for (; !atLineEnd(); skipLetter()) {
             close = here() == u']' ? at_ : close;
         }
         if (close == end_) {
@@ -269,7 +283,7 @@ private:
                 takeLineEnd();
                 continue;
             }
-            at_ += Unit::kWidth;
+            skipLetter();
             if (c == u'"') {
                 return true;
             }
@@ -354,33 +368,31 @@ private:
     RegFileError error_;
 };
 
-template <class Unit>
-std::optional<RegFileError> scanAll(const RegFileText& text, RegFileSink& sink) {
-    Scanner<Unit> scanner(text, {text.start(), text.bytes().size()}, sink);
-    scanner.skipLine();  // the header
-    return scanner.run();
+// Calls `scan` with the scanner for the text's encoding.
+template <class Scan>
+auto withScanner(const RegFileText& text, TextRange range, RegFileSink& sink, Scan scan) {
+    if (text.unit() == 2) {
+        return scan(Scanner<TwoBytes>(text, range, sink));
+    }
+    return text.hasPairs() ? scan(Scanner<OneOrTwoBytes>(text, range, sink))
+                           : scan(Scanner<OneByte>(text, range, sink));
 }
 
 }  // namespace
 
 std::optional<RegFileError> scanRegFile(const RegFileText& text, RegFileSink& sink) {
-    return text.unit() == 1 ? scanAll<OneByte>(text, sink) : scanAll<TwoBytes>(text, sink);
+    return withScanner(text, {text.start(), text.bytes().size()}, sink, [](auto scanner) {
+        scanner.skipLine();  // the header
+        return scanner.run();
+    });
 }
 
 void scanSection(const RegFileText& text, TextRange section, RegFileSink& sink) {
-    if (text.unit() == 1) {
-        Scanner<OneByte>(text, section, sink).run();
-    } else {
-        Scanner<TwoBytes>(text, section, sink).run();
-    }
+    withScanner(text, section, sink, [](auto scanner) { return scanner.run(); });
 }
 
 void scanSectionHeader(const RegFileText& text, TextRange section, RegFileSink& sink) {
-    if (text.unit() == 1) {
-        Scanner<OneByte>(text, section, sink).readLine();
-    } else {
-        Scanner<TwoBytes>(text, section, sink).readLine();
-    }
+    withScanner(text, section, sink, [](auto scanner) { return scanner.readLine(); });
 }
 
 }  // namespace korvane

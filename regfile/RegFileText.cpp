@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-#include "text/Codepage.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
@@ -112,11 +112,12 @@ std::size_t lineAt(const RegFileText& text, std::size_t offset) {
 
 }  // namespace
 
-std::optional<RegFileError> RegFileText::read(std::string bytes, RegFileText& text) {
+std::optional<RegFileError> RegFileText::read(std::string bytes, const CodePage& page, RegFileText& text) {
     if (bytes.size() > kLongestFile) {
         return RegFileError{1, "the file is longer than 2 GB"};
     }
     RegFileText file;
+    file.form_.page = page;
     file.bytes_ = std::move(bytes);
     if (std::optional<RegFileError> error = file.findEncoding()) {
         return error;
@@ -222,7 +223,7 @@ void RegFileText::decode(TextRange range, std::u16string& text) const {
     }
     if (!ascii) {
         const bool ansi = form_.encoding == RegFileEncoding::Ansi;
-        text = ansi ? fromAnsi(part) : fromUtf8(part).value_or(std::u16string());
+        text = ansi ? form_.page.toUtf16(part) : fromUtf8(part).value_or(std::u16string());
     }
 }
 
@@ -231,7 +232,7 @@ bool RegFileText::canEncode(std::u16string_view text) const {
         case RegFileEncoding::Utf16:
             return true;
         case RegFileEncoding::Ansi:
-            return toAnsiExactly(text).has_value();
+            return form_.page.toBytesExactly(text).has_value();
         case RegFileEncoding::Utf8:
         case RegFileEncoding::Utf8WithMark:
             break;
@@ -255,7 +256,7 @@ std::string RegFileText::encode(std::u16string_view text) const {
         case RegFileEncoding::Utf16:
             return utf16Bytes(text);
         case RegFileEncoding::Ansi:
-            return toAnsi(text);
+            return form_.page.toBytes(text);
         case RegFileEncoding::Utf8:
         case RegFileEncoding::Utf8WithMark:
             break;
@@ -268,7 +269,7 @@ std::string RegFileText::asFile(std::string bytes) const {
         !isUtf8(bytes)) {
         return bytes;
     }
-    return std::string(kUtf16Mark) + utf16Bytes(fromAnsi(bytes));
+    return std::string(kUtf16Mark) + utf16Bytes(form_.page.toUtf16(bytes));
 }
 
 }  // namespace korvane

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "regfile/RegFile.h"
+#include "text/CodePage.h"
 
 namespace korvane {
 
@@ -17,6 +18,7 @@ enum class RegFileEncoding : std::uint8_t { Utf16, Ansi, Utf8, Utf8WithMark };
 struct RegFileForm {
     RegFileHeader header = RegFileHeader::Version5;
     RegFileEncoding encoding = RegFileEncoding::Utf16;
+    CodePage page = CodePage::western();  // of Ansi text, and of texts in hex lines of the older form
 };
 
 // From and to, in bytes from the start of the file.
@@ -30,7 +32,8 @@ public:
     // A file in the form that holds nothing.
     explicit RegFileText(RegFileForm form = {});
     // Checks the encoding and the header's line, and that there is no NUL character. After an error `text` is as before.
-    static std::optional<RegFileError> read(std::string bytes, RegFileText& text);
+    // The page is that of the file's system.
+    static std::optional<RegFileError> read(std::string bytes, const CodePage& page, RegFileText& text);
 
     const std::string& bytes() const { return bytes_; }
     const RegFileForm& form() const { return form_; }
@@ -38,6 +41,8 @@ public:
     std::size_t start() const;
     // The number of bytes of a character that has any meaning in the file.
     std::size_t unit() const { return form_.encoding == RegFileEncoding::Utf16 ? 2 : 1; }
+    // Whether there may be letters of two bytes, the second of which may look like any character from '0' on.
+    bool hasPairs() const { return form_.encoding == RegFileEncoding::Ansi && form_.page.hasPairs(); }
     // A byte, or two of them in UTF-16: what has a meaning in the file is one of these, the rest parts of a character.
     char16_t unitAt(std::size_t offset) const;
     // Behind the end of the line an offset lies in.

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "text/Codepage.h"
+#include "text/Utf.h"
 
 namespace korvane {
 namespace {
@@ -134,7 +134,7 @@ bool RegFileWriter::appendHex(const RegistryValue& value, std::size_t column, st
         return true;
     }
     // The older form has the bytes of texts in the system's code page.
-    const std::optional<std::string> narrow = toAnsiExactly(fromStored(value.data));
+    const std::optional<std::string> narrow = file_->form().page.toBytesExactly(fromStored(value.data));
     if (!narrow || value.data.size() % 2 != 0) {
         return false;
     }

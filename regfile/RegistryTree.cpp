@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 namespace korvane {
 namespace {
@@ -25,7 +25,7 @@ std::u16string_view takeName(std::u16string_view& path) {
 RegistryTree::RegistryTree() : slots_(kFirstSlots, kNoKey) {
     for (const RegistryRootName& root : kRegistryRoots) {
         keys_.emplace_back();
-        keys_.back().name = names_.add(fromAnsi(root.longName));
+        keys_.back().name = names_.add(std::u16string(root.longName.begin(), root.longName.end()));
         keys_.back().exists = true;
     }
 }

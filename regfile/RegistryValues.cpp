@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "text/Codepage.h"
+#include "text/CaseFolding.h"
 
 namespace korvane {
 

@@ -1,7 +1,7 @@
 // Boxes, check marks and the signs of the frame's buttons, scaled to the resolution of the screen.
 #include "skin/ElementPainter.h"
 
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 

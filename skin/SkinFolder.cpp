@@ -1,7 +1,7 @@
 // Splits the path, and reads whole files.
 #include "skin/SkinFolder.h"
 
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 
 #include <utility>
 

@@ -10,13 +10,11 @@
 namespace korvane::skin {
 namespace {
 
-// The end-of-file character of DOS (0x1A) counts as white space.
-constexpr std::string_view kWhiteSpace = " \t\v\f\x1a";
 constexpr std::size_t kLongestQuotation = 60;
 
 // In every folder Windows opens a device under these names, whatever follows the first dot.
 bool isDevice(std::string_view name) {
-    const std::string_view stem = withoutBlanks(name.substr(0, name.find('.')));
+    const std::string_view stem = trimmed(name.substr(0, name.find('.')));
     constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL"};
     if (std::ranges::any_of(kDevices, [&](std::string_view device) { return equalIgnoringCase(stem, device); })) {
         return true;
@@ -66,33 +64,17 @@ std::string whyNoText(std::string_view text) {
 
 }  // namespace
 
-std::string_view SkinLines::takeLine() {
-    ++number_;
-    const auto* end = std::ranges::find_if(rest_, [](char c) { return c == '\n' || c == '\r'; });
-    const std::string_view line = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
-    rest_.remove_prefix(line.size());
-    rest_.remove_prefix(rest_.starts_with("\r\n") ? 2 : std::min<std::size_t>(rest_.size(), 1));
-    return line;
-}
-
 bool SkinLines::next(SkinLine& line) {
-    while (!rest_.empty()) {
-        const std::string_view text = withoutBlanks(takeLine());
-        if (text.empty() || text.starts_with(';')) {
+    for (IniLine read; lines_.next(read);) {
+        if (read.text.starts_with(';')) {
             continue;
         }
-        const std::size_t equals = text.find('=');
-        if (text.starts_with('[') && text.ends_with(']')) {
-            const std::string_view name = withoutBlanks(text.substr(1, text.size() - 2));
-            line = {.kind = SkinLine::Kind::Section, .number = number_, .name = name};
-        } else if (text.starts_with('[') || equals == std::string_view::npos) {
-            line = {.kind = SkinLine::Kind::Unclear, .number = number_, .name = text};
-        } else {
-            line = {.kind = SkinLine::Kind::Entry,
-                    .number = number_,
-                    .name = withoutBlanks(text.substr(0, equals)),
-                    .value = withoutBlanks(text.substr(equals + 1))};
-        }
+        const bool isSection = read.kind == IniLine::Kind::Section && read.behind.empty();
+        const bool isEntry = read.kind == IniLine::Kind::Entry && !read.text.starts_with('[');
+        line = {.kind = isSection ? SkinLine::Kind::Section : isEntry ? SkinLine::Kind::Entry : SkinLine::Kind::Unclear,
+                .number = read.number,
+                .name = isSection || isEntry ? read.name : read.text,
+                .value = isEntry ? read.value : std::string_view()};
         return true;
     }
     return false;
@@ -136,12 +118,6 @@ std::string quotedPart(std::string_view text) {
     quoted += text.substr(0, kLongestQuotation);
     std::ranges::replace_if(quoted, [](char c) { return c < ' ' || c > '~'; }, '?');
     return quoted += text.size() > kLongestQuotation ? "...\"" : "\"";
-}
-
-std::string_view withoutBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kWhiteSpace);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
 }
 
 }  // namespace korvane::skin

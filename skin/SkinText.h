@@ -2,7 +2,8 @@
 #pragma once
 
 #include "skin/SkinFile.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
+#include "text/IniText.h"
 
 #include <string>
 #include <string_view>
@@ -17,17 +18,14 @@ struct SkinLine {
     std::string_view value{};  // of an entry, without the white space around it
 };
 
-// The sections and entries of a text; blank lines and comments are skipped.
+// The sections and entries of a text; comments are skipped, and what is neither is unclear.
 class SkinLines {
 public:
-    explicit SkinLines(std::string_view text) : rest_(text) {}
+    explicit SkinLines(std::string_view text) : lines_(text) {}
     bool next(SkinLine& line);
 
 private:
-    std::string_view takeLine();
-
-    std::string_view rest_;
-    int number_ = 0;
+    IniLines lines_;
 };
 
 // Whether this is a text with Format=1 in the given section. If so, a byte order mark is removed; if not, the problem says
@@ -39,7 +37,5 @@ std::string readSkinPicture(std::string_view name, const ReadSkinFile& read, Pic
 
 // A part of a file in quotation marks, shortened, and with "?" for everything but printable ASCII.
 std::string quotedPart(std::string_view text);
-
-std::string_view withoutBlanks(std::string_view text);
 
 }  // namespace korvane::skin

@@ -33,7 +33,7 @@ std::vector<std::string_view> partsOf(std::string_view value, std::size_t most) 
     std::vector<std::string_view> parts;
     for (std::size_t start = 0; start <= value.size() && parts.size() <= most;) {
         const std::size_t end = std::min(value.find(',', start), value.size());
-        parts.push_back(withoutBlanks(value.substr(start, end - start)));
+        parts.push_back(trimmed(value.substr(start, end - start)));
         start = end + 1;
     }
     return parts;

@@ -14,6 +14,7 @@ import sys
 # What each folder may include besides itself. A folder not named here belongs to the one above it.
 MAY_INCLUDE = {
     "text": "",
+    "text/win32": "text",
     "res": "",
     "platform": "",
     "platform/stdio": "platform text",
@@ -24,7 +25,7 @@ MAY_INCLUDE = {
     "catalogue": "pages res",
     "history": "pages platform text",
     "lang": "platform text",
-    "skin": "platform platform/stdio text",
+    "skin": "platform text",
     "skin/win32": "platform platform/win32 skin text",
     "app": "catalogue history lang pages platform res text",
     "app/win32": "app platform platform/win32 res skin skin/win32",
@@ -36,7 +37,8 @@ MAY_INCLUDE = {
     "fuzz": "*",
     "tests": "*",
 }
-WINDOWS_FOLDERS = {"platform/win32", "skin/win32", "app/win32", "cli", "tests/win32", "tests/program", "tools/drive"}
+WINDOWS_FOLDERS = {"platform/win32", "skin/win32", "app/win32", "text/win32", "cli", "tests/win32", "tests/program",
+                   "tools/drive"}
 WINDOWS_HEADERS = re.compile(r"(windows|win(base|def|gdi|nls|nt|reg|user)|commctrl|commdlg|objbase|ole2|oleauto|olectl"
                              r"|shellapi|shlobj|shlwapi|htmlhelp)\.h", re.IGNORECASE)
 

@@ -3,11 +3,14 @@
 // The first folder holds the hand-written pages and the style sheet, which are
 // copied; the second one must exist.
 #include "docgen/HelpPages.h"
+#include "text/WholeFile.h"
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
+
+constexpr std::size_t kLongestFile = 16 << 20;
 
 [[noreturn]] void fail(const std::string& path, const char* reason) {
     std::fprintf(stderr, "make_help: %s: %s\n", path.c_str(), reason);
@@ -15,19 +18,10 @@ namespace {
 }
 
 std::string readFile(const std::string& path) {
-    std::FILE* const file = std::fopen(path.c_str(), "rb");
-    if (file == nullptr) {
-        fail(path, "cannot be opened");
-    }
     std::string text;
-    char part[4096];
-    for (std::size_t got; (got = std::fread(part, 1, sizeof part, file)) > 0;) {
-        text.append(part, got);
-    }
-    const bool failed = std::ferror(file) != 0;
-    std::fclose(file);
-    if (failed) {
-        fail(path, "cannot be read");
+    std::string reason;
+    if (!korvane::readWholeFile(path, kLongestFile, text, &reason)) {
+        fail(path, reason.c_str());
     }
     return text;
 }

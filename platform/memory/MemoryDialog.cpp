@@ -1,6 +1,8 @@
 // The behaviour of the Windows controls, as far as the program can see it.
 #include "platform/memory/MemoryDialog.h"
 
+#include "text/CaseFolding.h"
+
 #include <algorithm>
 
 namespace korvane {
@@ -40,10 +42,8 @@ void place(MemoryControl& control, const Rect& rect) {
 // Texts of windows end at the first zero byte.
 std::string platformText(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
 
-char lowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 bool sortsBefore(std::string_view a, std::string_view b) {
-    return std::ranges::lexicographical_compare(a, b, {}, lowerCase, lowerCase);
+    return std::ranges::lexicographical_compare(lowerCase(a), lowerCase(b));
 }
 
 template <class Items>

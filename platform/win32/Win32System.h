@@ -32,7 +32,7 @@ private:
     Win32Version version_;
     Win32Clock clock_;
     Win32Folders folders_;
-    IniFile profile_;
+    IniFile profile_{CodePage::ofHost()};
     Win32Pickers pickers_;
     Win32Files files_;
     Win32HelpLibrary help_;

@@ -6,7 +6,7 @@
 #include "skin/SkinFolder.h"
 #include "skin/win32/GdiCanvas.h"
 #include "skin/win32/SkinnedWindow.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 
 namespace korvane::skin {
 namespace {

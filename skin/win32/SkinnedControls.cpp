@@ -4,7 +4,7 @@
 #include "skin/win32/SkinEngine.h"
 #include "skin/win32/SkinnedButton.h"
 #include "skin/win32/SkinnedFrame.h"
-#include "text/EqualIgnoringCase.h"
+#include "text/CaseFolding.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // Reading the files of expected effects.
 #include "tests/catalogue/EffectsFile.h"
 
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // apply: what it writes to the file, what it says, and what leaves the file untouched.
 #include "cli/ApplyReport.h"
 #include "regfile/MemoryRegistry.h"
-#include "text/Codepage.h"
+#include "text/CodePage.h"
 #include "tests/cli/KmctlTest.h"
 #include "tests/platform/RegistryBehaviour.h"
 
@@ -12,7 +12,7 @@ using ApplyTest = KmctlTest;
 
 std::string utf16File(std::string_view ansi) {
     std::string bytes = "\xff\xfe";
-    for (const char16_t unit : fromAnsi(ansi)) {
+    for (const char16_t unit : CodePage::western().toUtf16(ansi)) {
         bytes += static_cast<char>(unit & 0xFF);
         bytes += static_cast<char>(unit >> 8);
     }

@@ -72,6 +72,10 @@ TEST(CommandLine, WrongUsageIsNamed) {
              {{"list", "--registry=x", "--windows=XP"},
               "--windows knows 95, 98, me, nt4, 2000, xp, 2003 and vista, not \"XP\""},
              {{"list", "--registry=x", longest + "\\"}, "understood"},
+             {{"list", "--code-page=1251"}, "--code-page needs --registry, the file of that system"},
+             {{"list", "--registry=x", "--code-page=utf8"},
+              "--code-page takes the number of a code page, such as 1251, not \"utf8\""},
+             {{"list", "--registry=x", "--code-page=37"}, "--code-page names the page 37, which is not known here"},
              {{"list", "--registry=x", longest + 'x'}, "--windows-folder takes a folder's path of up to 99 characters"},
              {{"list", "--registry=x", "--drives=C:fixed,c:cdrom"}, "--drives names the drive C: twice"},
          }) {

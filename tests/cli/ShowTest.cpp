@@ -1,6 +1,6 @@
 // list and show: what they print, for people and for scripts, and what they refuse.
 #include "catalogue/Catalogue.h"
-#include "text/Codepage.h"
+#include "text/Utf.h"
 #include "tests/cli/KmctlTest.h"
 
 #ifdef _WIN32

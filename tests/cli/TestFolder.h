@@ -1,7 +1,7 @@
 // A folder of its own for each test, removed afterwards with all that is in it.
 #pragma once
 
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 
 #include <gtest/gtest.h>
 

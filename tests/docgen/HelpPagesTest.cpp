@@ -4,7 +4,7 @@
 
 #include "docgen/HelpTopics.h"
 #include "catalogue/Catalogue.h"
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "docgen/LanguageTemplate.h"
 
 #include "catalogue/Catalogue.h"
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 #include "tests/support/AppFixture.h"
 
 namespace korvane {

@@ -2,11 +2,11 @@
 // apply is what the engine writes.
 #include "docgen/TweaksDocument.h"
 
-#include "docgen/HelpPages.h"
 #include "catalogue/Catalogue.h"
 #include "platform/memory/DialogTemplates.h"
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 #include "tests/support/AppFixture.h"
+#include "text/CaseFolding.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "regfile/RegFileIndex.h"
 #include "res/ControlIds.h"
 #include "tests/support/AppFixture.h"
-#include "text/Codepage.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <functional>

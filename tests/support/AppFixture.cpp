@@ -3,7 +3,7 @@
 
 #include "platform/memory/DialogTemplates.h"
 #include "regfile/RegFile.h"
-#include "platform/stdio/StdioFiles.h"
+#include "text/WholeFile.h"
 #include "res/ControlIds.h"
 
 #include <algorithm>

@@ -1,31 +1,10 @@
-// Conversions between UTF-16, Windows-1252 and UTF-8, and upper case for comparing registry names. Written out by
-// table and by rule because the C library's own depend on the locale of the machine.
-#include "text/Codepage.h"
+// Written out because the platform's own conversions disagree about what is not well formed.
+#include "text/Utf.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 
 namespace korvane {
 namespace {
-
-// Bytes 80 to 9F of Windows-1252; all others are the character of the same number.
-constexpr std::array<char16_t, 32> kAnsiHighControls{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
-
-std::optional<char> ansiByte(char16_t character) {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
-        return static_cast<char>(character);
-    }
-    const auto* found = std::find(kAnsiHighControls.begin(), kAnsiHighControls.end(), character);
-    if (found == kAnsiHighControls.end()) {
-        return std::nullopt;
-    }
-    return static_cast<char>(0x80 + (found - kAnsiHighControls.begin()));
-}
 
 bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
@@ -87,34 +66,6 @@ void appendUtf8(std::string& out, std::uint32_t code) {
 
 }  // namespace
 
-std::u16string fromAnsi(std::string_view text) {
-    std::u16string out(text.size(), u'\0');
-    std::transform(text.begin(), text.end(), out.begin(), [](char c) {
-        const auto byte = static_cast<unsigned char>(c);
-        return byte >= 0x80 && byte <= 0x9F ? kAnsiHighControls[byte - 0x80U] : static_cast<char16_t>(byte);
-    });
-    return out;
-}
-
-std::string toAnsi(std::u16string_view text) {
-    std::string out(text.size(), '\0');
-    std::transform(text.begin(), text.end(), out.begin(), [](char16_t c) { return ansiByte(c).value_or('?'); });
-    return out;
-}
-
-std::optional<std::string> toAnsiExactly(std::u16string_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (const char16_t character : text) {
-        const std::optional<char> byte = ansiByte(character);
-        if (!byte) {
-            return std::nullopt;
-        }
-        out += *byte;
-    }
-    return out;
-}
-
 std::optional<std::u16string> fromUtf8(std::string_view text, std::size_t* faultAt) {
     std::u16string out;
     out.reserve(text.size());
@@ -149,6 +100,10 @@ std::string toUtf8(std::u16string_view text) {
     return out;
 }
 
+std::u16string_view characterAt(std::u16string_view text, std::size_t at) {
+    return text.substr(at, startsPair(text, at) ? 2 : 1);
+}
+
 bool isWellFormed(std::u16string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (startsPair(text, i)) {
@@ -177,49 +132,6 @@ std::u16string fromStored(std::span<const std::byte> data) {
                                         std::to_integer<unsigned>(data[2 * i + 1]) << 8);
     }
     return text;
-}
-
-char16_t upperCase(char16_t c) {
-    const auto in = [c](char16_t first, char16_t last) { return c >= first && c <= last; };
-    const auto shifted = [c](int distance) { return static_cast<char16_t>(c + distance); };
-    if (c < 0x80) {
-        return in(u'a', u'z') ? shifted(-0x20) : c;
-    }
-    if (c < 0x100) {
-        return c == 0xFF ? char16_t{0x178} : c >= 0xE0 && c != 0xF7 ? shifted(-0x20) : c;
-    }
-    // Latin Extended-A: pairs of which the small letter is odd, but even from 139 to 148 and from 179 on.
-    if (in(0x100, 0x137) || in(0x14A, 0x177)) {
-        return c % 2 == 1 && c != 0x131 ? shifted(-1) : c;
-    }
-    if (in(0x139, 0x148) || in(0x179, 0x17E)) {
-        return c % 2 == 0 ? shifted(-1) : c;
-    }
-    if (c == 0x3AC) {
-        return 0x386;
-    }
-    if (in(0x3AD, 0x3AF)) {
-        return shifted(-37);
-    }
-    if (in(0x3B1, 0x3CB)) {
-        return c == 0x3C2 ? char16_t{0x3A3} : shifted(-0x20);
-    }
-    if (in(0x3CC, 0x3CE)) {
-        return c == 0x3CC ? char16_t{0x38C} : shifted(-63);
-    }
-    if (in(0x430, 0x44F) || in(0xFF41, 0xFF5A)) {
-        return shifted(-0x20);
-    }
-    if (in(0x450, 0x45F)) {
-        return shifted(-0x50);
-    }
-    return in(0x561, 0x586) ? shifted(-0x30) : c;
-}
-
-std::u16string upperCase(std::u16string_view text) {
-    std::u16string out(text);
-    std::transform(out.begin(), out.end(), out.begin(), [](char16_t c) { return upperCase(c); });
-    return out;
 }
 
 }  // namespace korvane
