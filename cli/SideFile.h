@@ -42,7 +42,8 @@ public:
     const std::string& name() const { return name_; }
     const std::string& whyNot() const { return whyNot_; }
 
-    // Replaces the file in one step, if it is still in that state; for a file that is held. Why it failed, or nothing.
+    // Replaces the file in one step, if it is still in that state, and gives it free; for a file that is held. Why it
+    // failed, or nothing.
     // Owner, permissions and extended attributes stay, where the system allows it.
     std::optional<std::string> replace(std::string_view bytes, const FileState& expected);
 

@@ -137,6 +137,8 @@ std::optional<std::string> SideFile::replace(std::string_view bytes, const FileS
     }
     if (reason) {
         DeleteFileA(next.c_str());
+    } else {
+        release();
     }
     return reason;
 }
