@@ -10,10 +10,10 @@
 namespace korvane {
 namespace {
 
-// No item is selected yet: a number above every ItemId.
+// No item is selected yet. A number above every ItemId.
 constexpr std::uint32_t kNoItem = 0xFFFFFFFF;
 constexpr std::uint32_t kLastItem = kItemCount - 1;
-// Items 0 and 1 are categories: the first that can be applied is 2.
+// Items 0 and 1 are categories, so the first item that can be applied is 2.
 constexpr std::uint32_t kFirstAppliedItem = 2;
 
 constexpr int kImageSize = 16;
@@ -23,7 +23,7 @@ constexpr Colour kImageMask = rgb(255, 0, 0);
 constexpr int kDividerRangeLeft = 50;
 constexpr int kDividerRangeRight = 10;
 
-// The tree control's own words for "lines, buttons, selection always shown" and "left-aligned".
+// The tree control's values for "lines, buttons, selection always shown" and "left-aligned".
 constexpr std::uint32_t kTreeStyle = 0x306700E3;
 constexpr std::uint32_t kTreeColumnFormat = 0x504144;
 constexpr int kTreeColumnWidth = 500;
@@ -53,7 +53,7 @@ CMainDlg::CMainDlg(CKorvaneApp& app, MainWindow& window, Dates dates)
     }
 }
 
-// The order is fixed: the splash comes before the skin, the texts before what shows them.
+// The order is fixed: the splash screen before the skin, the texts before what shows them.
 bool CMainDlg::OnInitDialog() {
     appendAboutItem();
     window_.setIcons(IDI_KORVANE);
@@ -225,8 +225,8 @@ void CMainDlg::OnFrameButton(const std::string& name) {
 
 void CMainDlg::OnDestroy() { skin_ = nullptr; }
 
-// The tree follows the divider with its right edge, the pages with their left one. A page's controls move by a fraction
-// of that, the distance times 100 divided by the page's width: meant so.
+// The right edge of the tree and the left edge of the pages follow the splitter. Intended: the controls of a page move
+// by a fraction only, the distance times 100 divided by the width of the page.
 void CMainDlg::OnDividerMoved(int distance) {
     Rect tree = window_.controls().controlRect(IDC_TREE);
     tree.right += distance;
@@ -271,7 +271,7 @@ void CMainDlg::stamp() {
     }
 }
 
-// A tweak shows its title, or its row's text in the tree where the row says so; a translated title replaces both.
+// A tweak shows its title or, if so declared, the text of its tree row; a translated title replaces both.
 std::vector<OverviewRow> CMainDlg::overviewRows(const Tweak& category) {
     std::vector<OverviewRow> rows;
     for (const int id : overviewItems(category)) {

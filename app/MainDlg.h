@@ -1,5 +1,5 @@
-// The main window's decisions: the order of start-up, the tree, which page is
-// shown and which is applied. The windows themselves stand behind MainWindow.
+// The decisions of the main window: start-up, the tree, which page is shown and
+// which is applied. The windows themselves are behind MainWindow.
 #pragma once
 
 #include "app/CatalogModule.h"
@@ -17,7 +17,7 @@ namespace korvane {
 
 class CMainDlg : public MainWindowHandler, private PageHost, private DialogHost {
 public:
-    // Both are borrowed and outlive the dialog.
+    // Both are borrowed and must outlive the dialog.
     CMainDlg(CKorvaneApp& app, MainWindow& window, Dates dates = Dates::InFile);
 
     bool OnInitDialog() override;
@@ -76,7 +76,7 @@ private:
     ListColumns listColumns_;
     std::uint32_t currentItem_;
     ISkinEngine* skin_ = nullptr;
-    // The language file of this run; set once the setting has been read.
+    // The language file of this run; set after the setting has been read.
     LanguageFile language_;
 };
 

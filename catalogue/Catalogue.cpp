@@ -84,7 +84,7 @@ consteval bool everyIdIsInOneUnit(const auto&... groups) {
 static_assert(everyIdIsInOneUnit(kAccessories, kAppearance, kDesktop, kExplorer, kFileSystem, kLogin, kStartMenu,
                                  kStartup, kSystem, kTroubleshooting, kTopLevel));
 
-// One pointer per ItemId, made on first use.
+// One pointer per ItemId, filled on first use.
 const std::array<const Tweak*, kItemCount>& table() {
     static const auto made = [] {
         std::array<const Tweak*, kItemCount> rows{};

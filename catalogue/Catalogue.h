@@ -19,8 +19,7 @@ struct CatalogueGroup {
 
 std::span<const CatalogueGroup> catalogueGroups();
 
-// The ItemIds that a category's overview lists, from top to bottom: its own list, or the tweaks right below it in the
-// tree.
+// The ItemIds in a category's overview, from top to bottom: its own list, or else its child tweaks in the tree.
 std::vector<int> overviewItems(const Tweak& category);
 
 // Null for a number that is no ItemId.

@@ -1,4 +1,4 @@
-// Contents and index are lists of objects in the form that help compilers read.
+// Contents and index are lists of objects in the format of help compilers.
 #include "docgen/HelpProject.h"
 
 #include "docgen/TweakControls.h"
@@ -15,8 +15,8 @@ constexpr std::string_view kListStart =
     "<!DOCTYPE HTML PUBLIC \"-//IETF//DTD HTML//EN\">\n<HTML>\n<HEAD>\n</HEAD>\n<BODY>\n<UL>\n";
 constexpr std::string_view kListEnd = "</UL>\n</BODY>\n</HTML>\n";
 
-// The window: contents, index and search beside the page, the place kept from one time to the next; then the width of
-// that pane, the usual buttons, and the place of the window the first time.
+// The window: navigation pane with contents, index and search, position saved; then the width of that pane, the usual
+// buttons, and the initial position.
 constexpr std::string_view kProjectStart = R"([OPTIONS]
 Compatibility=1.1 or later
 Compiled file=English.chm
@@ -35,7 +35,7 @@ help="Korvane Manager Help","English.hhc","English.hhk","start.html","start.html
 [FILES]
 )";
 
-// Name and address are as escaped as in HTML.
+// Name and address are already escaped for HTML.
 std::string parameter(std::string_view name, const std::string& value) {
     return "<param name=\"" + std::string(name) + "\" value=\"" + value + "\">";
 }
@@ -90,7 +90,7 @@ struct Keyword {
     auto operator<=>(const Keyword&) const = default;
 };
 
-// The names of values and keys with which the place of a binding begins: `Name` and `Other` (REG_DWORD) in `KEY`.
+// The names of values and keys at the start of a place: `Name` and `Other` (REG_DWORD) in `KEY`.
 void addNames(std::vector<Keyword>& keywords, const Tweak& tweak, const BindingText& binding) {
     if (binding.places.empty()) {
         return;
@@ -133,7 +133,7 @@ std::vector<Keyword> allKeywords(std::span<const HelpFile> guide) {
     return keywords;
 }
 
-// A keyword with all that it leads to. Names that differ in letter case alone are one.
+// One keyword with all its targets. Names that differ only in letter case are one keyword.
 std::string index(std::span<const HelpFile> guide) {
     const std::vector<Keyword> keywords = allKeywords(guide);
     std::string text(kListStart);

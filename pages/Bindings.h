@@ -1,7 +1,6 @@
-// The binding kinds: what one control of a page stands for in the registry.
-// Each kind holds only what it needs; what varies between rows of a kind is a
-// named field. Its show and its apply stand side by side in the .cpp files of
-// this folder.
+// The kinds of binding: what a control of a page stands for in the registry. A kind
+// holds only what it needs; what varies between tweaks is a named field. The show
+// and the apply of a kind stand side by side in the .cpp files of this folder.
 #pragma once
 
 #include "pages/Alerts.h"
@@ -20,12 +19,12 @@ namespace korvane {
 
 class PageContext;
 
-// A control that a row's own routines look after.
+// A control that the tweak's own routines handle.
 struct Unbound {};
 
 // ---- check boxes -------------------------------------------------------------------------------------------------
 
-// A number that means "checked"; every other number, and none, means unchecked.
+// A number that means checked; any other number, or none, means cleared.
 struct DwordFlag {
     KeyPath key;
     std::string_view name;
@@ -33,22 +32,22 @@ struct DwordFlag {
     std::uint32_t cleared = 0;
     bool clearedDeletes = false;
     bool clearedDeletesByPath = false;  // deletes without opening, and so without making, the key
-    // A second value of the same key that must agree to show as checked (it is read only when the first does), and
-    // that is written the same number behind the first.
+    // A second value of the same key. It is written like the first and after it, and the box is checked only if both
+    // agree (the second is read only if the first does).
     std::string_view alsoName = {};
 };
 
-// As DwordFlag; a missing key is made when the page is applied.
+// As DwordFlag, but an apply creates a missing key.
 constexpr DwordFlag PolicyDwordFlag(const KeyPath& key, std::string_view name) {
     return {.key = key.created.empty() ? key.madeWhole() : key, .name = name};
 }
 
-// 0 means checked; written as 0 and 1.
+// 0 means checked; writes 0 and 1.
 constexpr DwordFlag DwordFlagInverted(const KeyPath& key, std::string_view name) {
     return {.key = key, .name = name, .checked = 0, .cleared = 1};
 }
 
-// The number is handed to the check box as its state; written as 1 and 0.
+// The number is passed to the check box as its state; writes 1 and 0.
 struct DwordCheckState {
     KeyPath key;
     std::string_view name;
@@ -57,7 +56,7 @@ struct DwordCheckState {
 
 enum class Compare : std::uint8_t { Exact, IgnoreCase, Contains, AsNumber };
 
-// A text that means "checked"; every other text, and none, means unchecked.
+// A text that means checked; any other text, or none, means cleared.
 struct StringFlag {
     KeyPath key;
     std::string_view name;
@@ -69,7 +68,7 @@ struct StringFlag {
     ValueType type = ValueType::Sz;
 };
 
-// Fixed bytes that mean "checked" and "cleared".
+// Fixed bytes that mean checked and cleared.
 struct BinaryFlag {
     // What shows as checked: the first four bytes as the number that `checked` holds, or any data at all.
     enum class Shown : std::uint8_t { SameNumber, Present };
@@ -81,7 +80,7 @@ struct BinaryFlag {
     Shown shown = Shown::SameNumber;
 };
 
-// A subkey that is there or not. Checked makes it, or, with `checkedWhenAbsent`, deletes it.
+// A subkey that exists or not. Checked creates it or, with `checkedWhenAbsent`, deletes it.
 struct SubkeyFlag {
     KeyPath parent;
     std::string_view name;
@@ -100,37 +99,37 @@ struct MaskBit {
     std::uint8_t bit;   // the mask of the one bit within the byte
     // The box is checked when the bit is clear.
     bool checkedWhenClear = false;
-    // The bits of that byte that an apply keeps as they are.
+    // The bits of that byte that an apply keeps.
     std::uint8_t kept = 0xFF;
-    // What the mask holds when it cannot be read.
+    // The mask to start from if it cannot be read.
     std::uint32_t whenMissing = 0;
     bool checkedWhenMissing = false;
 };
 
-// A shell verb: a key whose default value is the menu's text, with a subkey "command" whose default value is the
-// command line. Checked makes both, cleared deletes the key with all below it.
+// A shell verb: a key whose default value is the menu text, with a subkey "command" whose default value is the command
+// line. Checked creates both, cleared deletes the key with all its subkeys.
 struct ShellVerbKey {
     KeyPath parent;  // opened
     std::string_view verb;
-    // Where the menu's text comes from: an edit box of the page, which shows it as well, or the fixed text.
+    // The source of the menu text: an edit box of the page, which also shows it, or the fixed text.
     int menuTextEdit = 0;
     std::string_view menuText = {};
     // The alert that refuses an empty menu text, after the box has been cleared again.
     Alert requiredAlert = Alert::None;
     std::string_view commandLine;
     std::string_view commandLineOn9x = {};  // empty: the same on every Windows
-    // A second parent: the box shows checked when either has the verb, and clearing deletes it from both.
+    // A second parent: the box is checked if either has the verb, and cleared deletes it from both.
     std::optional<KeyPath> twin = {};
 };
 
-// A policy and the current user's copy of it (its mirror): a text in both places. Checked while both have the value.
+// A policy and the current user's copy of it (its mirror): a text in both places. Checked if both have the value.
 struct MirroredPolicy {
     KeyPath key;
     KeyPath mirror;
     std::string_view name;
     std::string_view text;
-    // Below the mirror's opened key: the key that clearing deletes, with all that is below it. Clearing deletes the
-    // policy's value as well.
+    // The key below the mirror's opened key that cleared deletes with all its subkeys. Cleared also deletes the value
+    // of the policy.
     std::string_view deletedTree;
 };
 
@@ -141,11 +140,11 @@ using CheckBinding = std::variant<Unbound, DwordFlag, DwordCheckState, StringFla
 
 enum class WhenEmpty : std::uint8_t { Deletes, WritesNothing, WritesEmpty };
 
-// A folder that is stored as a variable and shown written out: plain, case-sensitive replacement of every occurrence.
+// A folder that is stored as a variable and shown as its path: plain, case-sensitive replacement of every occurrence.
 enum class Folding : std::uint8_t {
     None,
     WindowsFolder,  // %SystemRoot%
-    ProfilePrefix,  // %USERPROFILE%; the prefix ends with its separator, so a shown path has it twice: meant so
+    ProfilePrefix,  // %USERPROFILE%. Intended: the prefix ends with its separator, so that a path is shown with two.
 };
 
 struct StringValue {
@@ -155,7 +154,7 @@ struct StringValue {
     ValueType type = ValueType::Sz;
     Folding folding = Folding::None;
     bool withoutQuotes = false;  // double quotation marks are removed before anything else looks at the text
-    // Appended to what is written; what is shown ends before the first occurrence of `suffixStart`.
+    // Appended to the written text; the shown text ends before the first occurrence of `suffixStart`.
     std::string_view suffix = {};
     std::string_view suffixStart = {};
 };
@@ -165,8 +164,7 @@ constexpr StringValue ExpandStringValue(const KeyPath& key, std::string_view nam
     return {.key = key, .name = name, .whenEmpty = whenEmpty, .type = ValueType::ExpandSz};
 }
 
-// A number shown and typed in decimal; a text without leading digits is 0. Where an empty text deletes the value, its key
-// is opened first.
+// A decimal number; a text without leading digits is 0. If an empty text deletes the value, its key is opened first.
 struct DwordNumber {
     KeyPath key;
     std::string_view name;
@@ -189,7 +187,7 @@ struct TextEntry {
     std::string_view stored;
 };
 
-// What an apply does when the combo reports no selection.
+// What an apply does if there is no choice.
 enum class WhenNone : std::uint8_t {
     Writes,
     WritesNothing,
@@ -197,7 +195,7 @@ enum class WhenNone : std::uint8_t {
     DeletesInOpenKey,  // the key is opened, or made, first
 };
 
-// Entries "first" to "last", each the decimal text of its own number.
+// One entry for each number from `first` to `last`, in decimal.
 struct NumberRange {
     int first = 0;
     int last = -1;
@@ -213,8 +211,7 @@ struct DwordChoice {
     int initial = kNoSelection;  // selected before the value is read, and kept when there is none
     int unknown = kNoSelection;  // selected for a stored number that no entry has
     WhenNone whenNone = WhenNone::Writes;
-    // The index that the combo reports for "none", as a number: meant to be written so where a row does not say
-    // otherwise.
+    // Written for no choice. Intended: by default the index -1 of the combo box, as a number.
     std::uint32_t noneNumber = 0xFFFFFFFF;
 };
 
@@ -230,7 +227,7 @@ struct StringChoice {
     std::string_view noneText = "-1";
 };
 
-// Entries that the row's own routines look after.
+// Entries that the tweak's own routines handle.
 struct PlainEntry {
     std::string_view text;
 };
@@ -259,14 +256,14 @@ using ColourBinding = std::variant<Unbound, ColourText, ColourBinary>;
 
 // ---- lists -------------------------------------------------------------------------------------------------------
 
-// The selected row's index is the number; nothing is read, and nothing written when no row is selected.
+// The index of the selected row is the number; nothing is read, and nothing is written if no row is selected.
 struct DwordRowChoice {
     KeyPath key;
     std::string_view name;
 };
 
-// A row with a check box for each registered application that counts, in the order of their keys, both when shown and
-// when applied. A checked application lacks the value; a cleared one has it, as an empty text.
+// A row with a check box for each registered application that counts, in the order of their keys, in show and apply
+// alike. A checked application lacks the value; a cleared one has it, as an empty text.
 struct ApplicationRows {
     enum class Counts : std::uint8_t {
         WithShellSubkey,
@@ -296,12 +293,12 @@ void applyColour(PageContext& context, int combo, const ColourBinding& binding, 
 void showTable(PageContext& context, int list, const TableBinding& binding);  // the list has its columns, but no rows
 void applyTable(PageContext& context, int list, const TableBinding& binding);
 
-// Three numbers with single blanks between them, each taken modulo 256.
+// Three numbers separated by single spaces, each modulo 256.
 Colour parseColour(std::string_view text);
 std::string formatColour(Colour colour);
 
-// The decimal number that a text begins with, as the C library's atoi reads it (white space, sign, digits; 0 without
-// digits; out of range saturates).
+// The decimal number at the start of a text, as atoi reads it (white space, sign, digits; 0 without digits; saturates
+// out of range).
 int decimalNumber(std::string_view text);
 // The user's profile folder with its separator; empty where Windows has no profiles.
 std::string profilePrefix(const PageContext& context);

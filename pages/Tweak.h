@@ -1,6 +1,6 @@
-// One record of the catalogue: everything about one tweak or category in one
-// place, as data. The item table, the tree, both dispatches, the language keys,
-// kmctl and the generated documentation follow from it.
+// One item of the catalogue: everything about a tweak or category, as data. The
+// item table, the tree, show and apply, the language keys, kmctl and the generated
+// documents follow from it.
 #pragma once
 
 #include "pages/Bindings.h"
@@ -13,7 +13,7 @@
 
 namespace korvane {
 
-// The pages, in the order in which they are made.
+// The pages, in the order in which they are created.
 enum class Page : std::uint8_t {
     Category,
     Checks,
@@ -28,8 +28,8 @@ enum class Page : std::uint8_t {
 };
 constexpr int kPageCount = static_cast<int>(Page::None);
 
-// The controls of a page, top to bottom. Boxes, and the rows of fields and choices, take their page's controls in that
-// order; a page whose rows offer both a field and a choice gives the first rows to the fields.
+// The controls of a page, from top to bottom. Boxes and the rows of fields and choices take the controls of their page
+// in that order; on a page whose rows have both an edit box and a combo box, fields take the first rows.
 struct VersionedBinding {
     VersionSet on;
     CheckBinding binding;
@@ -39,11 +39,11 @@ struct CheckBox {
     std::string_view text;
     CheckBinding binding = Unbound{};
     int control = 0;  // another box than the next one
-    // Bound otherwise on some versions of Windows: the first whose set holds the running one counts.
+    // Other bindings on some versions of Windows: the first whose set contains the running version is used.
     std::span<const VersionedBinding> onVersions = {};
 };
 
-// What the "..." button beside a field lets the user choose.
+// What the browse button of a field lets the user pick.
 enum class Picker : std::uint8_t {
     None,  // no button
     File,
@@ -73,7 +73,7 @@ struct TableColumn {
     int width;  // pixels
 };
 
-// A list of choices, or of mere explanations. Cells stand row by row.
+// A list of choices, or only of explanations. Cells are listed row by row.
 struct Table {
     std::span<const TableColumn> columns;
     std::span<const std::string_view> cells = {};
@@ -82,20 +82,20 @@ struct Table {
 
 // A category's overview: its tweaks with the dates on which they were last applied.
 struct Overview {
-    // The ItemIds of its rows where they are not the tweaks right below the category in the tree.
+    // The ItemIds of its rows if they are not the category's child tweaks in the tree.
     std::span<const int> rows = {};
     int nameWidth = 295;  // pixels
     int dateWidth = 99;
 };
 
-// A text that an apply always writes beside what the controls say.
+// A text that every apply writes, whatever the controls say.
 struct FixedText {
     KeyPath key;
     std::string_view name;
     std::string_view text;
 };
 
-// When an apply records the date, once its gate has passed.
+// When an apply records the date, after the gate.
 enum class Stamp : std::uint8_t {
     BeforeOpening,  // first of all, even if the key then cannot be opened or a required field is empty
     On9xAlone,      // the same, but on Windows 95, 98 and Me only
@@ -134,15 +134,15 @@ struct Tweak {
     bool showOnly = false;
     std::span<const FixedText> writesFirst = {};
     std::span<const FixedText> writesLast = {};
-    // The controls in the order in which they are written, where that is not the order of this list: all boxes, all
-    // fields, the colour, all choices, the table.
+    // The controls in the order in which they are written, if that is not the default: all boxes, all fields, the
+    // colour, all choices, the table.
     std::span<const int> writeOrder = {};
-    // Routines of a tweak that fits no kind: the first runs behind the common part of a show, the second in place of
-    // the common writes (gate, date and required fields still come first).
+    // Routines of a tweak that fits no kind of binding: the first runs after the common part of a show, the second
+    // instead of the common writes (gate, date and required fields still come first).
     Routine show = nullptr;
     Routine apply = nullptr;
-    // For the documentation, each one line in which keys, names and data stand between grave accents: what those
-    // routines read and write beyond the bindings, and where Windows' side of the tweak is described.
+    // For the documents, one line each, with keys, names and data in backquotes: what those routines read and write,
+    // and where the setting is documented.
     std::string_view registry = {};
     std::string_view source = {};
 
@@ -153,8 +153,7 @@ struct Tweak {
     constexpr std::string_view treeRowText() const { return treeText.empty() ? title : treeText; }
 };
 
-// The same control twice: the first for the current user, the second for all users. The binding names the key under
-// the current user.
+// The same control twice, for the current user and for all users. The binding has the key of the current user.
 template <typename Binding>
 constexpr Binding underLocalMachine(Binding binding) {
     binding.key = binding.key.under(Root::LocalMachine);

@@ -1,4 +1,4 @@
-// The show and apply sequences that all rows share.
+// The show sequence and the apply sequence of all tweaks.
 #include "pages/TweakEngine.h"
 
 #include "pages/PageLayout.h"
@@ -39,7 +39,7 @@ void reset(PageContext& context, const Field& field, const RowControls& row) {
     }
 }
 
-// The colour list keeps its row: it has no reset state.
+// The colour list keeps its entry: it has no reset state.
 void reset(PageContext& context, const ColourField& colour, const RowControls& row) {
     showText(context, row.label, colour.label);
     context.page.showControl(row.combo, true);
@@ -80,8 +80,8 @@ void reset(PageContext& context, const Table& table, int list) {
     context.page.showControl(list, true);
 }
 
-// The check-box page has room for ten boxes; its note stands right below those that are used and takes the rest of the
-// page, so that a long note can be read whole.
+// The check-box page has room for ten boxes. Its note is moved to just below those in use and fills the rest of the
+// page, so that a long note is completely visible.
 void placeNote(PageContext& context, int note) {
     if (context.tweak.page != Page::Checks || context.tweak.boxes.empty()) {
         return;
@@ -157,7 +157,7 @@ void writeFixed(PageContext& context, std::span<const FixedText> texts) {
     }
 }
 
-// False when all boxes of a tweak are bound to nothing on the running Windows: there is nothing to apply.
+// False if no box of the tweak has a binding on the running version of Windows, so that there is nothing to apply.
 bool boundHere(const PageContext& context) {
     return std::ranges::all_of(context.tweak.boxes, [&](const CheckBox& box) {
         return box.onVersions.empty() || !std::holds_alternative<Unbound>(context.bindingOf(box));
@@ -176,7 +176,7 @@ void refuse(PageContext& context) {
     context.host.alert(context.tweak.gate.alert);
 }
 
-// False, after the alert, when a required field is empty.
+// False, after the alert, if a required field is empty.
 bool requiredFieldsFilled(PageContext& context) {
     for (std::size_t i = 0; i < context.tweak.fields.size(); ++i) {
         const Alert alert = context.tweak.fields[i].required;

@@ -55,7 +55,7 @@ public:
     void surface(const Rect& area, const Rect& whole, const ElementLook& look, ControlState state);
     // The square of a check box, with a mark if it is checked.
     void checkSquare(const Rect& square, const ElementLook& look, ControlState state, bool checked);
-    // A button of the frame with its sign: "Help", "Minimize" or "Close".
+    // Draws a frame button with its symbol: "Help", "Minimize" or "Close".
     void frameButton(const Rect& area, const ElementLook& look, ControlState state, std::string_view name);
 
 private:

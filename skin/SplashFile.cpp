@@ -1,4 +1,4 @@
-// A splash file is read whole or not at all: the first mistake in it is its problem.
+// The first mistake in a splash file is reported, and the file is not used.
 #include "skin/SplashFile.h"
 
 #include "skin/SkinText.h"

@@ -214,7 +214,7 @@ void Win32MainWindow::createDivider(int controlId, int rangeLeft, int rangeRight
     if (skin::Win32SkinEngine* engine = win32SkinEngine()) {
         engine->replaceWindow(placeholder, splitter);
     }
-    // Above the pages, and found before its placeholder, which has the same id.
+    // Above the pages in Z order, and before its placeholder, which has the same id.
     moveToTop(splitter);
 }
 

@@ -1,5 +1,5 @@
-// The tree's order, the life of the window from start to end, and what a
-// person can do with it.
+// The order of the tree, the life of the window from start to end, and the actions
+// of the user.
 #include "platform/memory/MemoryMainWindow.h"
 
 #include "res/ControlIds.h"
@@ -81,7 +81,7 @@ void MemoryTree::DeleteAllItems() {
     selectedData_.reset();
 }
 
-// The new row stands behind its sibling `after` and all below that; behind the last child when `after` names none.
+// The new row follows its sibling `after` and everything below that; it is the last child if there is no such sibling.
 CTreeListItem MemoryTree::InsertItem(std::string_view text, CTreeListItem parent, CTreeListItem after) {
     const MemoryTreeRow* above = find(parent);
     if (parent != kRootItem && above == nullptr) {
@@ -159,7 +159,7 @@ bool MemoryMainWindow::run(MainWindowHandler& handler) {
     return running_;
 }
 
-// What the message loop does between two messages: carries out a posted close, and notices that the dialog has ended.
+// What the message loop does between two messages: handles a posted close, and notices that the dialog has ended.
 void MemoryMainWindow::settle() {
     if (running_ && std::exchange(closePosted_, false)) {
         dialog_.endDialog(kCancelled);
@@ -216,7 +216,7 @@ void MemoryMainWindow::createPage(int templateId, DialogHandler& handler) {
     }
 }
 
-// The person at the machine presses OK.
+// The user presses OK.
 void MemoryMainWindow::runAboutBox(DialogHandler& handler) {
     note(log_, "about box");
     aboutBox_ = std::make_unique<MemoryDialog>(*findDialogTemplate(IDD_ABOUT));
@@ -257,7 +257,7 @@ bool MemoryMainWindow::selectData(std::uint32_t data) {
 
 bool MemoryMainWindow::clickApply() { return dialog_.clickButton(IDC_APPLY); }
 
-// The low four bits of a system command are the platform's own.
+// Windows uses the low four bits of a system command itself.
 bool MemoryMainWindow::chooseSystemMenu(int commandId) {
     const bool offered = std::ranges::find(systemMenu_, commandId, &SystemMenuItem::commandId) != systemMenu_.end();
     if (!running_ || !offered || commandId == 0) {

@@ -47,9 +47,9 @@ public:
     explicit MemoryTree(CallLog& log) : log_(log), background_(log) {}
 
     const std::vector<MemoryTreeRow>& rows() const { return rows_; }  // from top to bottom
-    // The first row with that data; null when there is none.
+    // The first row with that data; null if there is none.
     const MemoryTreeRow* findData(std::uint32_t data) const;
-    // Selects without telling anybody. The data need not be that of a row.
+    // Selects without any notification. The data need not be that of a row.
     void select(std::uint32_t data) { selectedData_ = data; }
 
     void SetStyle(std::uint32_t style) override;
@@ -82,7 +82,7 @@ public:
     explicit ScriptedSkinEngine(CallLog& log) : log_(log) {}
 
     int callCount() const { return callCount_; }
-    // Refuses the n-th call from the start, counted from 1, and no other; 0 refuses none.
+    // Refuses only the n-th call, counted from 1; 0 refuses none.
     void refuseCall(int number) { refused_ = number; }
 
     Hresult LoadSkin(const std::string& path) override;
@@ -121,28 +121,28 @@ public:
     MemoryMainWindow(const MemoryMainWindow&) = delete;
     MemoryMainWindow& operator=(const MemoryMainWindow&) = delete;
 
-    // Shows the window and lets the handler initialise it. False when the window has ended already; the handler, which
-    // outlives the window, has then been told of its end.
+    // Shows the window and lets the handler initialise it. False if the window has already ended; the handler, which
+    // must outlive the window, has then been told.
     bool run(MainWindowHandler& handler);
     bool running() const { return running_; }
 
-    // User actions. Those that answer false could not be done.
-    // Selecting tells the handler also when the row is selected already, so that its page is read afresh.
+    // User actions; they return false if they are not possible. Selecting a selected row again also tells the handler,
+    // so that its page is read again.
     bool selectRow(std::size_t index);
-    // Selects the first row with that data. Data that no row carries is selected all the same, so that a tweak without
-    // a row in the tree can be reached as well.
+    // Selects the first row with that data. Data without a row is selected too, so that tweaks outside the tree can be
+    // reached.
     bool selectData(std::uint32_t data);
     bool clickApply();
     bool chooseSystemMenu(int commandId);
     bool pressFrameButton(const std::string& name);  // of the skin's frame
-    // Drags the divider so many pixels to the right, or as far as its range allows.
+    // Drags the splitter so many pixels to the right, or as far as its range allows.
     bool dragDivider(int distance);
     bool close();
 
-    // Null when no page was made from that template.
+    // Null if there is no page from that template.
     MemoryDialog* page(int templateId);
     MemoryDialog& dialog() { return dialog_; }
-    // The About box as it was last shown; null before.
+    // The About box as it was last shown; null if it was not.
     const MemoryDialog* aboutBox() const { return aboutBox_.get(); }
     const CallLog& calls() const { return log_; }
     const std::vector<SystemMenuItem>& systemMenu() const { return systemMenu_; }
@@ -163,12 +163,12 @@ public:
     void createPage(int templateId, DialogHandler& handler) override;
     void runAboutBox(DialogHandler& handler) override;
     void redrawAll() override;
-    // Closes the window once the handler has returned from what it is told at the moment.
+    // Closes the window after the handler has returned.
     void postClose() override { closePosted_ = true; }
     void sendShowHelp() override { handler_->OnHelp(); }
 
 private:
-    // Passes the window's own button on.
+    // Passes on a click of the window's own button.
     class Clicks final : public DialogHandler {
     public:
         explicit Clicks(MemoryMainWindow& window) : window_(window) {}

@@ -6,10 +6,10 @@
 
 namespace korvane {
 
-// For the dialog's WM_MEASUREITEM: rows as high as a line of the dialog's text.
+// Handles WM_MEASUREITEM of the dialog: a row is as high as a line of the dialog's text.
 void measureColourRow(HWND dialog, MEASUREITEMSTRUCT& measure);
 
-// For the dialog's WM_DRAWITEM; a row's item data is its colour.
+// Handles WM_DRAWITEM of the dialog; the item data of a row is its colour.
 void drawColourRow(const DRAWITEMSTRUCT& draw);
 
 }  // namespace korvane

@@ -22,7 +22,7 @@ public:
     PaintBuffer(const PaintBuffer&) = delete;
     PaintBuffer& operator=(const PaintBuffer&) = delete;
 
-    // False when memory is short: nothing can be drawn then.
+    // False if memory is short; then nothing can be drawn.
     bool valid() const { return pixels_ != nullptr; }
     int width() const { return width_; }
     int height() const { return height_; }

@@ -1,4 +1,5 @@
-// File, memory block, stream, picture object, bitmap: each step takes over what the one before it made.
+// File, memory block, stream, picture object, bitmap: each step takes ownership of
+// the result of the previous one.
 #include "platform/win32/PictureLoader.h"
 
 #include <ole2.h>
@@ -24,7 +25,7 @@ bool readInto(HGLOBAL block, HANDLE file, DWORD size) {
     return isRead;
 }
 
-// The file's content as a movable block; null when it cannot be read.
+// The content of the file as a movable memory block; null if it cannot be read.
 GlobalBlock readFile(const std::string& path, DWORD& size) {
     const KernelHandle file = fileHandle(
         CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));

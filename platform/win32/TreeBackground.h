@@ -25,7 +25,7 @@ public:
     // False without a picture and under high contrast.
     bool isShown() const;
 
-    // Draws rows and picture in the given part of the client area. False, with nothing drawn, when memory is short.
+    // Draws rows and picture in the given part of the client area. False, with nothing drawn, if memory is short.
     bool paint(HDC target, SIZE client, const RECT& part, COLORREF windowColour, const DrawRows& drawRows) const;
 
 private:

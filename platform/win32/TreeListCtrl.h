@@ -23,7 +23,7 @@ void registerTreeListClass(HINSTANCE instance);
 // are ignored.
 class Win32TreeListCtrl final : public CTreeListCtrl {
 public:
-    // The window is borrowed, and so is the image list, which is the window's from SetImageList on.
+    // The window is borrowed. From SetImageList on, the window uses the image list, which is borrowed too.
     explicit Win32TreeListCtrl(HWND window) : window_(window), background_(window) {}
     void offerImageList(HIMAGELIST images) { images_ = images; }
 

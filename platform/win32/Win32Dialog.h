@@ -9,7 +9,7 @@ namespace korvane {
 
 class Win32Dialog final : public DialogControls {
 public:
-    // The window is borrowed; once it is destroyed every verb does nothing.
+    // The window is borrowed; once it is destroyed, every function does nothing.
     explicit Win32Dialog(HWND dialog) : dialog_(dialog) {}
 
     HWND window() const { return dialog_; }

@@ -1,4 +1,4 @@
-// The dialog procedure that all hosted dialogs share.
+// The dialog procedure of all hosted dialogs.
 #include "platform/win32/Win32DialogHost.h"
 
 #include "platform/win32/ColourComboPainter.h"

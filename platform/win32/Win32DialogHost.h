@@ -20,7 +20,7 @@ public:
 
     // Makes a child dialog. Null on failure; the handler has then not been told anything.
     HWND create(HINSTANCE instance, int templateId, HWND parent);
-    // Returns when the user has closed the dialog.
+    // Runs the dialog until the user closes it.
     void runModal(HINSTANCE instance, int templateId, HWND owner);
 
 private:

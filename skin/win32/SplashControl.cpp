@@ -94,7 +94,7 @@ public:
         }
     }
 
-    // The main window has come up above the picture.
+    // The main window has appeared above the picture.
     void mainWindowShown() {
         const DWORD remaining = remainingTime();
         if (remaining == 0) {

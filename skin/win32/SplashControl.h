@@ -1,5 +1,5 @@
-// The splash: a control of the main dialog whose three methods name a splash file and show its picture in a window of its
-// own while the program starts.
+// The splash screen: a control of the main dialog whose three methods name a splash
+// file and show its picture in a window of its own while the program starts.
 #pragma once
 
 #include "platform/SkinEngine.h"
@@ -24,7 +24,7 @@ constexpr UINT kSplashHide = WM_USER + 103;
 // Call before a dialog with such a control is made.
 void registerSplashClass(HINSTANCE instance);
 
-// The methods of one such control, which is borrowed.
+// The methods of one such control. The window is borrowed.
 class Win32Splash final : public SplashWindow {
 public:
     explicit Win32Splash(HWND control) : control_(control) {}
