@@ -4,17 +4,14 @@
 #include "regfile/RegistryTree.h"
 #include "text/CaseFolding.h"
 
-#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
 
 namespace korvane {
 namespace {
 
 using Action = RegistryAttempt::Action;
-
-bool samePlace(const RegistryAttempt& a, const RegistryAttempt& b) {
-    return a.root == b.root && equalIgnoringCase(a.path, b.path) &&
-           (a.action == Action::Open || equalIgnoringCase(a.name, b.name));
-}
 
 bool isAboutValue(Action action) { return action == Action::SetValue || action == Action::DeleteValue; }
 
@@ -42,13 +39,53 @@ std::string reasonOf(const RegistryAttempt& attempt) {
     }
 }
 
-void addOnce(std::vector<std::string>& lines, std::string line) {
-    if (std::ranges::find(lines, line) == lines.end()) {
-        lines.push_back(std::move(line));
+// For looking up what else was tried under the same key; and of the same value or subkey.
+std::string keyOf(const RegistryAttempt& attempt) {
+    return std::to_string(static_cast<int>(attempt.root)) + lowerCase(attempt.path);
+}
+std::string nameOf(const RegistryAttempt& attempt) { return keyOf(attempt) + '\n' + lowerCase(attempt.name); }
+
+// The last attempt of each kind, by its number.
+struct LastAttempts {
+    std::unordered_map<std::string, std::size_t> doneUnderKey;
+    std::unordered_map<std::string, std::size_t> doneByName;
+    std::unordered_map<std::string, std::size_t> valueUnderKey;
+
+    explicit LastAttempts(std::span<const RegistryAttempt> attempts) {
+        for (std::size_t i = 0; i < attempts.size(); ++i) {
+            if (attempts[i].status == Status::Success) {
+                doneUnderKey[keyOf(attempts[i])] = i;
+                doneByName[nameOf(attempts[i])] = i;
+            }
+            if (isAboutValue(attempts[i].action)) {
+                valueUnderKey[keyOf(attempts[i])] = i;
+            }
+        }
     }
+};
+
+bool isLaterThan(std::size_t number, const std::unordered_map<std::string, std::size_t>& last, const std::string& what) {
+    const auto found = last.find(what);
+    return found != last.end() && found->second > number;
 }
 
-void addFailure(ApplyReport& report, const RegistryAttempt& attempt) {
+// Lines in the order in which they first came.
+class Lines {
+public:
+    explicit Lines(std::vector<std::string>& lines) : lines_(lines) {}
+
+    void addOnce(std::string line) {
+        if (seen_.insert(line).second) {
+            lines_.push_back(std::move(line));
+        }
+    }
+
+private:
+    std::vector<std::string>& lines_;
+    std::unordered_set<std::string> seen_;
+};
+
+void addFailure(ApplyReport& report, Lines& notWritten, const RegistryAttempt& attempt) {
     const bool missing = attempt.status == Status::FileNotFound;
     if (missing && deletes(attempt.action)) {
         report.anythingDone = true;
@@ -59,7 +96,7 @@ void addFailure(ApplyReport& report, const RegistryAttempt& attempt) {
         return;
     }
     report.failed = report.failed || (!missing && !attempt.hasSubkeys);
-    addOnce(report.notWritten, placeOf(attempt) + ": " + reasonOf(attempt));
+    notWritten.addOnce(placeOf(attempt) + ": " + reasonOf(attempt));
 }
 
 }  // namespace
@@ -73,25 +110,22 @@ std::string ApplyReport::summary() const {
 
 ApplyReport reportOf(std::span<const RegistryAttempt> attempts) {
     ApplyReport report;
+    Lines written(report.written);
+    Lines notWritten(report.notWritten);
+    const LastAttempts last(attempts);
     for (std::size_t i = 0; i < attempts.size(); ++i) {
         const RegistryAttempt& attempt = attempts[i];
-        const auto later = attempts.subspan(i + 1);
-        const auto isSame = [&](const RegistryAttempt& other) { return samePlace(attempt, other); };
         if (attempt.status == Status::Success) {
             report.anythingDone = true;
             // A key that was opened or made for a value needs no line of its own.
-            const bool forValue = attempt.action == Action::CreateKey &&
-                                  std::ranges::any_of(later, [&](const RegistryAttempt& other) {
-                                      return isAboutValue(other.action) && other.root == attempt.root &&
-                                             equalIgnoringCase(other.path, attempt.path);
-                                  });
+            const bool forValue =
+                attempt.action == Action::CreateKey && isLaterThan(i, last.valueUnderKey, keyOf(attempt));
             if (!forValue) {
-                addOnce(report.written, placeOf(attempt) + (deletes(attempt.action) ? ": deleted" : ""));
+                written.addOnce(placeOf(attempt) + (deletes(attempt.action) ? ": deleted" : ""));
             }
-        } else if (std::ranges::none_of(later, [&](const RegistryAttempt& other) {
-                       return other.status == Status::Success && isSame(other);
-                   })) {
-            addFailure(report, attempt);
+        } else if (!(attempt.action == Action::Open ? isLaterThan(i, last.doneUnderKey, keyOf(attempt))
+                                                    : isLaterThan(i, last.doneByName, nameOf(attempt)))) {
+            addFailure(report, notWritten, attempt);
         }
     }
     return report;
