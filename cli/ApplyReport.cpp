@@ -64,7 +64,8 @@ struct LastAttempts {
     }
 };
 
-bool isLaterThan(std::size_t number, const std::unordered_map<std::string, std::size_t>& last, const std::string& what) {
+bool isLaterThan(std::size_t number, const std::unordered_map<std::string, std::size_t>& last,
+                 const std::string& what) {
     const auto found = last.find(what);
     return found != last.end() && found->second > number;
 }
